@@ -1,0 +1,114 @@
+#include "base/controls/desktop.h"
+
+#include <algorithm>
+
+#include "base/language/error.h"
+#include "base/language/text.h"
+
+namespace base {
+namespace {
+
+std::string RunTimeErrorText(const Error& error) {
+  return "Run-time error '" + std::to_string(error.Number()) + "':" + std::string(kLineBreak) +
+         std::string(kLineBreak) + error.Description();
+}
+
+}  // namespace
+
+void Desktop::Load(Form& form) {
+  if (form.Loaded()) return;
+  form.SetLoaded(true);
+  open_.insert(open_.begin(), &form);
+  load_order_.push_back(&form);
+  if (form.on.load) form.on.load();
+}
+
+void Desktop::Show(Form& form) {
+  Load(form);
+  if (!form.Loaded()) return;  // its own load may have closed it
+  const bool shown_before = form.Visible();
+  if (shown_before && open_.front() == &form) return;
+  form.SetVisible(true);
+  if (!shown_before) View().Shown(form);
+  Activate(form);
+}
+
+void Desktop::Activate(Form& form) {
+  if (!form.Loaded()) return;
+  BringToFront(form);
+  if (form.on.activate) form.on.activate();
+}
+
+void Desktop::BringToFront(Form& form) {
+  const auto place = std::find(open_.begin(), open_.end(), &form);
+  if (place == open_.end()) return;
+  std::rotate(open_.begin(), place, place + 1);
+  View().Raised(form);
+}
+
+void Desktop::Unload(Form& form) {
+  if (!form.Loaded()) return;
+  if (form.on.unload) form.on.unload();
+  form.SetLoaded(false);
+  form.SetVisible(false);
+  std::erase(open_, &form);
+  std::erase(load_order_, &form);
+  if (focused_ && &focused_->Window() == &form) {
+    focused_ = nullptr;
+    View().FocusMoved(nullptr);
+  }
+  View().Unloaded(form);
+  if (on_closed) on_closed(form);
+}
+
+void Desktop::Bury(std::shared_ptr<void> window) {
+  if (depth_ > 0) buried_.push_back(std::move(window));
+}
+
+void Desktop::SetFocus(Control& control) {
+  if (&control == focused_ || !control.TakesFocus() || !control.Enabled() || !control.Visible()) {
+    return;
+  }
+  Control* const old = focused_;
+  focused_ = &control;
+  if (old && old->on.lost_focus) old->on.lost_focus();
+  if (focused_ == &control && control.on.got_focus) control.on.got_focus();
+  View().FocusMoved(focused_);
+}
+
+void Desktop::FocusNext() {
+  if (!focused_) return;
+  const auto& controls = focused_->Window().Controls();
+  const auto start = std::find(controls.begin(), controls.end(), focused_) - controls.begin();
+  const auto count = static_cast<std::ptrdiff_t>(controls.size());
+  for (std::ptrdiff_t step = 1; step < count; ++step) {
+    Control& next = *controls[static_cast<std::size_t>((start + step) % count)];
+    if (!next.TakesFocus() || !next.Enabled() || !next.Visible()) continue;
+    SetFocus(next);
+    return;
+  }
+}
+
+void Desktop::Dispatch(const std::function<void()>& event) {
+  ++depth_;
+  try {
+    event();
+  } catch (const Error& error) {
+    ports_.boxes.Ask({.text = RunTimeErrorText(error), .icon = BoxIcon::kCritical});
+  } catch (const WindowClosed&) {
+    // The procedure's window is gone, and with it what it was doing.
+  } catch (...) {
+    --depth_;
+    throw;
+  }
+  if (--depth_ == 0) buried_.clear();
+}
+
+void Desktop::Yield() { ports_.pump.Pump(); }
+
+void Desktop::YieldFor(const Form& form) {
+  Yield();
+  if (!form.Loaded()) throw WindowClosed();
+}
+
+}  // namespace base

@@ -1,0 +1,106 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "base/controls/form.h"
+#include "base/controls/simple_controls.h"
+#include "base/ports/ports.h"
+
+namespace base {
+
+// Thrown by Desktop::YieldFor when the window of the running procedure was closed in the yield. It
+// ends the procedure silently and is no Error: no trap takes it.
+struct WindowClosed {};
+
+// What shows the windows. Every method may be left alone.
+class DesktopView {
+ public:
+  virtual ~DesktopView() = default;
+  virtual void Shown(Form& /*form*/) {}
+  virtual void Raised(Form& /*form*/) {}
+  virtual void Unloaded(Form& /*form*/) {}
+  virtual void FocusMoved(Control* /*control*/) {}
+  virtual void PopUp(MenuItem& /*menu*/) {}
+};
+
+// The window system as data: which windows are open and in front, which control has the focus, and
+// the place where every event enters the desk.
+class Desktop {
+ public:
+  explicit Desktop(Ports ports) : ports_(ports) {}
+
+  Ports& World() { return ports_; }
+  void SetView(DesktopView* view) { view_ = view; }
+  DesktopView& View() { return view_ ? *view_ : quiet_view_; }
+
+  // Runs Form_Load if the window is not loaded.
+  void Load(Form& form);
+  // Loads, shows and brings to the front; the activation event runs unless it stood there already.
+  void Show(Form& form);
+  // The user's switch to an open window: to the front, and its activation event.
+  void Activate(Form& form);
+  void BringToFront(Form& form);
+  // Runs Form_Unload, takes the window off the desktop, then `on_closed`.
+  void Unload(Form& form);
+  // Loaded windows, front first.
+  const std::vector<Form*>& OpenForms() const { return open_; }
+  // The same in the order in which they were loaded.
+  const std::vector<Form*>& LoadOrder() const { return load_order_; }
+  // Told after a window is gone, for whoever owns it. The owner hands the window to Bury.
+  std::function<void(Form&)> on_closed;
+  // Keeps a closed window alive until no event procedure can be using it.
+  void Bury(std::shared_ptr<void> window);
+
+  Control* Focused() const { return focused_; }
+  // Lost-focus of the old control, then got-focus of the new one. Controls that take no focus, or
+  // are disabled or hidden, are passed over.
+  void SetFocus(Control& control);
+  // The next control in the order of the window that can take the focus.
+  void FocusNext();
+
+  // Runs one event. An Error that no trap takes is shown as a run-time error and ends the event.
+  void Dispatch(const std::function<void()>& event);
+  // Lets pending events run, nested in the running procedure.
+  void Yield();
+  // The same for a procedure of this window: throws WindowClosed if the yield closed it.
+  void YieldFor(const Form& form);
+  // How many events are running inside each other.
+  int Depth() const { return depth_; }
+
+ private:
+  Ports ports_;
+  DesktopView* view_ = nullptr;
+  DesktopView quiet_view_;
+  std::vector<Form*> open_;
+  std::vector<Form*> load_order_;
+  Control* focused_ = nullptr;
+  int depth_ = 0;
+  std::vector<std::shared_ptr<void>> buried_;
+};
+
+// One window that exists at most once and is created on first use.
+template <typename T>
+class WindowSlot {
+ public:
+  explicit WindowSlot(std::function<std::shared_ptr<T>()> create) : create_(std::move(create)) {}
+  T& Get() {
+    if (!window_) window_ = create_();
+    return *window_;
+  }
+  T* Peek() const { return window_.get(); }
+  // Gives the instance up if it is this window.
+  bool Release(const Form& form, Desktop& desktop) {
+    if (!window_ || static_cast<const Form*>(window_.get()) != &form) return false;
+    desktop.Bury(std::move(window_));
+    window_.reset();
+    return true;
+  }
+
+ private:
+  std::function<std::shared_ptr<T>()> create_;
+  std::shared_ptr<T> window_;
+};
+
+}  // namespace base

@@ -1,0 +1,15 @@
+#include "base/ports/file_system.h"
+
+#include "base/language/error.h"
+
+namespace base {
+
+bool NoFiles::FileExists(const std::string&) { return false; }
+bool NoFiles::FolderExists(const std::string&) { return false; }
+std::unique_ptr<File> NoFiles::Open(const std::string&) { throw Error(kPathNotFound); }
+std::string NoFiles::ReadAll(const std::string&) { throw Error(kFileNotFound); }
+void NoFiles::Replace(const std::string&, std::string_view) { throw Error(kPathNotFound); }
+void NoFiles::Remove(const std::string&) { throw Error(kFileNotFound); }
+std::vector<std::string> NoFiles::List(const std::string&, const std::string&) { return {}; }
+
+}  // namespace base
