@@ -1,0 +1,48 @@
+#pragma once
+
+#include "store/browsing.h"
+#include "store/workplace.h"
+
+namespace store {
+
+// Opening the database and filling the window's buffers with it.
+class Loading {
+ public:
+  // What loading asks of the frame and of the window's other subjects.
+  class Neighbours {
+   public:
+    virtual ~Neighbours() = default;
+    virtual void DoBarColors() = 0;
+    virtual void DoMenus() = 0;
+    virtual void MarkMainWindow(bool in_use) = 0;
+    virtual void ShowStatus(const std::string& text) = 0;
+    virtual void SetHelpFile(const std::string& path) = 0;
+  };
+
+  Loading(Workplace place, Browsing& browsing, Neighbours& neighbours)
+      : place_(place), browsing_(browsing), neighbours_(neighbours) {}
+
+  // Picks the database, opens it as file number 1, shows its name and headings.
+  void LoadFirstDatabase();
+  // Fills the index, the draw lines and the table when they are not filled yet, and brings the
+  // window to its browsing state.
+  void Form_Activate();
+  void GetDataBaseName();
+
+ private:
+  void ChooseDatabase();
+  void FillBuffers();
+  void StartBrowsing();
+
+  Workplace place_;
+  Browsing& browsing_;
+  Neighbours& neighbours_;
+};
+
+// Sets the range of the strip's scroll bar, which shows while the strip is wider than its frame.
+void DoTextBoxExpandshion(MainWindow& window);
+
+// One row of the draw table: balls padded, date, day.
+base::ListView::Cells TableRow(const DrawRecord& record);
+
+}  // namespace store

@@ -1,0 +1,43 @@
+#include "store/session.h"
+
+#include "base/language/error.h"
+#include "base/language/numbers.h"
+
+namespace store {
+
+std::int32_t Session::PositionOf(double draw_number) const {
+  const std::int32_t index = base::ToInt32(draw_number);
+  if (index < 0 || index > UpperBound()) throw base::Error(base::kSubscript);
+  return draw_pos[static_cast<std::size_t>(index)];
+}
+
+void Session::ReadDraw(double draw_number) {
+  file_pos = PositionOf(draw_number);
+  file.Read(file_pos, current_draw);
+}
+
+void IndexNextRecord(Session& session, std::int32_t& position) {
+  const std::int32_t next = session.file.Read(position, session.current_draw);
+  session.draw_count = base::AddInt16(session.draw_count, 1);
+  const auto count = static_cast<std::size_t>(session.draw_count);
+  session.draw_pos.resize(count + 1);
+  session.draw_pos[count] = position;
+  session.file_pos = next;
+  position = next;
+}
+
+void WalkFile(Session& session) {
+  WalkFile(session, [] {});
+}
+
+void AppendCurrentDraw(Session& session) {
+  const std::int16_t count = base::ToInt16(static_cast<double>(session.draw_pos.size()));
+  session.file_pos = session.file_len + 1;
+  session.file.Write(session.file_pos, session.current_draw);
+  session.draw_pos.push_back(session.file_pos);
+  session.draw_count = count;
+  session.current_draw_number = static_cast<float>(session.draw_count) + 1;
+  session.file_len = session.file.Length();
+}
+
+}  // namespace store

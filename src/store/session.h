@@ -1,0 +1,113 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "base/controls/control.h"
+#include "store/draw_file.h"
+#include "store/draw_record.h"
+
+namespace store {
+
+inline constexpr std::size_t kBallCountPlaces = 1501;
+inline constexpr std::size_t kPositionPlaces = 101;
+
+// The colours of the graph's bands and of the ground behind the bars.
+struct BarColours {
+  base::Colour cold = 0;
+  base::Colour warm = 0;
+  base::Colour hot = 0;
+  base::Colour back = 0;
+  base::Colour fifth = 0;
+};
+
+// Everything that the windows and procedures of one desk share.
+struct Session {
+  explicit Session(base::FileSystem& files) : file(files) {}
+
+  // The open database.
+  std::string program_folder;
+  DrawFile file;
+  DrawRecord current_draw;             // the one buffer of every read and write of the file
+  std::vector<std::int32_t> draw_pos{0};  // position of record n at n; element 0 holds nothing
+  std::int16_t draw_count = 0;
+  std::int32_t file_pos = 0;
+  std::int32_t file_len = 0;
+  std::string data_base_name;
+  std::string data_base_path;
+  std::string temp_path;
+  bool data_base_changed = false;
+  // The table holds every record of the file. Nothing is ever rewritten from one that does not.
+  bool buffers_complete = false;
+
+  // The draw on show.
+  float current_draw_number = 0;
+  std::array<std::uint8_t, kBalls> current_balls{};
+  std::string shown_day;
+  std::string shown_date;
+  std::int16_t selected_list_row = 0;
+  std::string day_text;
+
+  // The counts of the scan.
+  std::vector<float> ball_count = std::vector<float>(kBallCountPlaces);
+  float filter_count = 0;
+  float scan_tally = 0;
+  std::array<std::array<float, kPositionPlaces>, kBalls> position_hits{};
+  std::array<std::array<std::uint8_t, kPositionPlaces>, kBalls> position_marks{};
+  std::string report_buffer;
+  BarColours bar_colours;
+
+  // Preferences, read at the start.
+  std::string version_section;
+  std::string date_format_text;
+  bool tips_on = false;
+  bool prompt_on_range_change = false;
+  bool mnu_hgight_on = false;
+  bool mnu_blue_on = false;
+  bool mnu_rwc_on = false;
+  bool mnu_hc_on = false;
+
+  // Which windows are open.
+  bool main_window_loaded = false;
+
+  std::int16_t loop_i = 0;
+  std::int16_t loop_j = 0;
+
+  // The highest draw number that the index knows.
+  int UpperBound() const { return static_cast<int>(draw_pos.size()) - 1; }
+  // The position of a draw; error 9 outside the index.
+  std::int32_t PositionOf(double draw_number) const;
+  // Reads the draw of this number into current_draw and moves file_pos to it.
+  void ReadDraw(double draw_number);
+};
+
+// Walks the whole file from its first byte: fills draw_pos, draw_count and file_pos, and calls
+// `visit` for each record in current_draw. An empty file is one blank record. Error 6 at the
+// 32,768th record.
+template <typename Visit>
+void WalkFile(Session& session, Visit visit);
+void WalkFile(Session& session);
+
+// Appends current_draw, and brings file_pos, draw_pos, draw_count, current_draw_number and file_len
+// up to date.
+void AppendCurrentDraw(Session& session);
+
+// --- implementation
+
+void IndexNextRecord(Session& session, std::int32_t& position);
+
+template <typename Visit>
+void WalkFile(Session& session, Visit visit) {
+  session.draw_count = 0;
+  session.file_pos = 1;
+  std::int32_t position = 1;
+  const std::int32_t length = session.file.Length();
+  do {
+    IndexNextRecord(session, position);
+    visit();
+  } while (position < length);
+}
+
+}  // namespace store
