@@ -1,0 +1,38 @@
+#pragma once
+
+#include "store/workplace.h"
+
+namespace scan {
+
+// The looks of the graph: which colour and band each bar has, what is shown, and the tab strip of
+// the side panels.
+class Graph {
+ public:
+  explicit Graph(store::Workplace place) : place_(place) {}
+
+  void Wire();
+
+  void SetBarColours(const store::BarColours& colours) { place_.session.bar_colours = colours; }
+  // Colours the bars cold, warm and hot by thirds of the ranking, or in two halves where that style
+  // is chosen. Fewer than five ranked balls keep the colours they have.
+  void DoBarColors();
+  void DoBarColors2();
+  void DoBarBackColur(base::Colour colour);
+  void MakeTheGraphVisible();
+  void MakeTheGraphInVisible();
+
+  void ChangeColour(base::Label& tab);
+  void MoveThePictureBox(base::Panel& panel, base::Label& tab);
+  void Label3_Click();
+  void Label8_Click();
+
+ private:
+  void SetBand(int rank, base::Band band);
+
+  store::Workplace place_;
+};
+
+// Blue in all three bands on white: the style of a first start.
+inline constexpr store::BarColours kBlueStyle{0xFF0000, 0xFF0000, 0xFF0000, 0xFFFFFF, 0xFF0000};
+
+}  // namespace scan

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "scan/ball_counts.h"
+#include "scan/frequencies.h"
+#include "scan/graph.h"
+#include "store/browsing.h"
+#include "store/entry.h"
+#include "store/workplace.h"
+
+namespace scan {
+
+// The walk over the draws that counts every ball. The caption of CmdScan is the scan's only state:
+// "Scan" is idle, "Stop" is running or suspended at the end of a range. A click on Stop arrives
+// nested, in one of the yields.
+class MainScan {
+ public:
+  MainScan(store::Workplace place, store::Browsing& browsing, store::Entry& entry,
+           BallCounts& counts, Graph& graph, Frequencies& frequencies)
+      : place_(place),
+        browsing_(browsing),
+        entry_(entry),
+        counts_(counts),
+        graph_(graph),
+        frequencies_(frequencies) {}
+
+  void Wire();
+
+  void CmdScan_Click();
+  // Counts the draw in current_draw if its day passes the filter.
+  void FillTag();
+
+ private:
+  enum class Pass { kNext, kFinish, kSuspend };
+
+  void StopSteps();
+  bool ConfirmNewScan();
+  void ScanFromHere();
+  Pass OnePass(int& first_scan_highest);
+  void ReadNextDraw();
+  void CountDraw();
+  void CheckRange(int& first_scan_highest);
+  void ZeroStatistics();
+  void ShowDraw();
+  void CountPositions();
+  void ShowHiddenBoxes();
+  void ShowWhereItStands();
+  void Finish();
+  void TakeSnapshot();
+
+  store::Workplace place_;
+  store::Browsing& browsing_;
+  store::Entry& entry_;
+  BallCounts& counts_;
+  Graph& graph_;
+  Frequencies& frequencies_;
+};
+
+}  // namespace scan
