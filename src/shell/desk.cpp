@@ -1,0 +1,139 @@
+#include "shell/desk.h"
+
+#include "base/language/text.h"
+#include "shell/dialogs.h"
+#include "shell/error_reporter.h"
+#include "shell/frame.h"
+#include "shell/main_window_subjects.h"
+#include "shell/splash.h"
+
+namespace shell {
+namespace {
+
+// The small windows, each with its procedures.
+
+struct SplashWindow : FrmSplash {
+  SplashWindow(base::Desktop& desktop, store::Session& session, Version version,
+               std::function<void()> show_frame)
+      : procedures(*this, desktop, session, version, std::move(show_frame)) {
+    procedures.Wire();
+  }
+  Splash procedures;
+};
+
+struct OptionsWindow : FrmOptions {
+  OptionsWindow(base::Desktop& desktop, store::Session& session)
+      : procedures(*this, desktop, session) {
+    procedures.Wire();
+  }
+  Options procedures;
+};
+
+struct AboutWindow : FrmAbout {
+  AboutWindow(base::Desktop& desktop, Version version) : procedures(*this, desktop) {
+    procedures.Wire(version);
+  }
+  About procedures;
+};
+
+struct FrameWindow : FrmMain {
+  FrameWindow(base::Desktop& desktop, store::Session& session, Frame::Windows& windows,
+              store::ErrorReporter& reporter)
+      : procedures(*this, desktop, session, windows, reporter) {
+    procedures.Wire();
+  }
+  Frame procedures;
+};
+
+}  // namespace
+
+class Desk::Parts : public Frame::Windows, public MainWindowSubjects::FrameSide {
+ public:
+  Parts(base::Ports ports, std::string program_folder)
+      : desktop(ports),
+        user(desktop),
+        session(ports.files),
+        reporter(ports, Version{}),
+        splash([this] {
+          return std::make_shared<SplashWindow>(desktop, session, Version{},
+                                                [this] { desktop.Show(frame.Get()); });
+        }),
+        frame([this] {
+          return std::make_shared<FrameWindow>(desktop, session, *this, reporter);
+        }),
+        main([this] {
+          return std::make_shared<MainWindowSubjects>(session, desktop, reporter, *this);
+        }),
+        options([this] { return std::make_shared<OptionsWindow>(desktop, session); }),
+        about([this] { return std::make_shared<AboutWindow>(desktop, Version{}); }) {
+    session.program_folder = std::move(program_folder);
+    desktop.on_closed = [this](base::Form& form) { Release(form); };
+  }
+
+  base::Desktop desktop;
+  base::User user;
+  store::Session session;
+  DeskErrorReporter reporter;
+  base::WindowSlot<SplashWindow> splash;
+  base::WindowSlot<FrameWindow> frame;
+  base::WindowSlot<MainWindowSubjects> main;
+  base::WindowSlot<OptionsWindow> options;
+  base::WindowSlot<AboutWindow> about;
+
+ private:
+  void Release(base::Form& form) {
+    splash.Release(form, desktop) || frame.Release(form, desktop) || main.Release(form, desktop) ||
+        options.Release(form, desktop) || about.Release(form, desktop);
+  }
+
+  // What the frame asks for.
+  void ShowMainWindow() override {
+    MainWindowSubjects& window = main.Get();
+    window.Move(0, 0);
+    desktop.Show(window);
+  }
+  void ShowOptions() override { desktop.Show(options.Get()); }
+  void ShowAbout() override { desktop.Show(about.Get()); }
+  void FillFromListView() override {
+    if (MainWindowSubjects* window = main.Peek()) window->Browsing().FillFromListView();
+  }
+
+  // What the main window asks of the frame.
+  void DoMenus() override { frame.Get().procedures.DoMenus(); }
+  void MarkMainWindow(bool in_use) override { frame.Get().procedures.MarkMainWindow(in_use); }
+  void ShowStatus(const std::string& text) override { frame.Get().lblStatus.SetCaption(text); }
+  void SetHelpFile(const std::string& path) override { frame.Get().procedures.SetHelpFile(path); }
+};
+
+Desk::Desk(base::Ports ports, std::string program_folder)
+    : parts_(std::make_unique<Parts>(ports, std::move(program_folder))) {}
+
+Desk::~Desk() = default;
+
+void Desk::Start() {
+  parts_->desktop.Dispatch([this] { parts_->desktop.Show(parts_->splash.Get()); });
+}
+
+void Desk::Stop() {
+  base::Form* window = Frame();
+  if (!window) window = parts_->splash.Peek();
+  if (window) parts_->user.Close(*window);
+}
+
+bool Desk::Ended() const { return parts_->desktop.OpenForms().empty(); }
+
+base::Desktop& Desk::Desktop() { return parts_->desktop; }
+base::User& Desk::User() { return parts_->user; }
+store::Session& Desk::Session() { return parts_->session; }
+
+base::Form* Desk::Find(std::string_view name) {
+  for (base::Form* form : parts_->desktop.OpenForms()) {
+    if (base::EqualNoCase(form->Name(), name)) return form;
+  }
+  return nullptr;
+}
+
+FrmMain* Desk::Frame() { return parts_->frame.Peek(); }
+store::MainWindow* Desk::Main() { return parts_->main.Peek(); }
+
+}  // namespace shell

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "base/controls/desktop.h"
+#include "base/controls/user.h"
+#include "shell/frame_window.h"
+#include "shell/small_windows.h"
+#include "store/main_window.h"
+#include "store/session.h"
+
+namespace shell {
+
+// The whole desk without a screen: its windows, its shared state and the road from start to end.
+class Desk {
+ public:
+  // `program_folder` is the host folder that holds DataBases, as a path of the desk. The ports must
+  // outlive the desk.
+  Desk(base::Ports ports, std::string program_folder);
+  ~Desk();
+
+  // Opens the splash window, which goes on to the frame by itself if the settings say so.
+  void Start();
+  // The user closes the frame: placement is stored, all windows are unloaded from the last opened to
+  // the first. Does nothing when the frame is closed already.
+  void Stop();
+  // True once the frame has been closed (or the splash before the frame came up).
+  bool Ended() const;
+
+  base::Desktop& Desktop();
+  base::User& User();
+  store::Session& Session();
+
+  // The loaded window of this name (any case); null when it is not open.
+  base::Form* Find(std::string_view name);
+  // The instances that views are made for; null while they do not exist.
+  FrmMain* Frame();
+  store::MainWindow* Main();
+
+ private:
+  class Parts;
+  std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace shell

@@ -1,0 +1,153 @@
+#include "shell/frame.h"
+
+#include <vector>
+
+#include "base/language/numbers.h"
+#include "shell/preferences.h"
+#include "store/headings.h"
+#include "store/setting_names.h"
+
+namespace shell {
+namespace {
+
+using store::kDeskApplication;
+using store::kTitleApplication;
+
+constexpr std::string_view kPlaceSection = "Settings";
+constexpr base::Colour kMarked = 0xE0E0E0;
+constexpr base::Colour kCleared = 0xC0C0C0;
+
+const base::MessageBox kNoHelp{
+    .text = "Unable to display Help Contents. There is no Help associated with this project."};
+
+}  // namespace
+
+void Frame::Wire() {
+  const auto trapped = [this](const char* name, auto body) {
+    return [this, name, body] { store::Trapped(reporter_, name, body); };
+  };
+  window_.on.load = trapped("MDIForm_Load", [this] { MDIForm_Load(); });
+  window_.on.unload = [this] { MDIForm_Unload(); };
+  window_.on.resize = [this] { window_.PicTile.Move(0, 0, window_.Width(), window_.Height()); };
+
+  const auto show_main = trapped("MnuMainWindow_Click", [this] { windows_.ShowMainWindow(); });
+  window_.MnuMainWindow.on.click = show_main;
+  window_.Command17.on.click = show_main;
+  window_.MnuOptions.on.click =
+      trapped("MnuOptions_Click", [this] { windows_.ShowOptions(); });
+  window_.mnuHelpAbout.on.click =
+      trapped("mnuHelpAbout_Click", [this] { windows_.ShowAbout(); });
+  window_.mnuHelpContents.on.click = [this] { ShowHelp(base::HelpPage::kContents); };
+  window_.mnuHelpSearchForHelpOn.on.click = [this] { ShowHelp(base::HelpPage::kSearch); };
+  for (base::MenuItem* item :
+       {&window_.MnuHgight, &window_.MnuBlue, &window_.MnuRWC, &window_.MnuHC}) {
+    item->on.click = trapped("MnuGraph_Click", [this, item] { Toggle(*item); });
+  }
+}
+
+void Frame::MDIForm_Load() {
+  base::Settings& settings = desktop_.World().settings;
+  window_.PicTile.SetVisible(false);
+  RestorePlacement();
+  const std::string name = store::DataBaseNameSetting(settings);
+  if (!name.empty()) window_.SetCaption(std::string(store::kWindowTitle) + name);
+  ReadRegion(settings, session_);
+  windows_.ShowMainWindow();
+}
+
+void Frame::RestorePlacement() {
+  const auto read = [this](std::string_view key, double default_value) {
+    const double value = ReadNumber(desktop_.World().settings, kTitleApplication, kPlaceSection,
+                                    key, default_value);
+    try {
+      return base::ToInt32(value);
+    } catch (const base::Error&) {
+      return base::ToInt32(default_value);
+    }
+  };
+  const int left = read("MainLeft", 1000);
+  if (left <= 0) return;
+  window_.Move(left, read("MainTop", 1000));
+  window_.Resize(read("MainWidth", 12000), read("MainHeight", 8200));
+}
+
+void Frame::MDIForm_Unload() {
+  store::Trapped(reporter_, "MDIForm_Unload", [this] { StorePlacement(); });
+  UnloadAllWindows();
+}
+
+void Frame::StorePlacement() {
+  if (window_.State() == base::WindowState::kMinimised) return;
+  const auto save = [this](std::string_view key, int value) {
+    desktop_.World().settings.Save(kTitleApplication, kPlaceSection, key, base::IntegerText(value));
+  };
+  save("MainLeft", window_.Left());
+  save("MainTop", window_.Top());
+  save("MainWidth", window_.Width());
+  save("MainHeight", window_.Height());
+}
+
+void Frame::UnloadAllWindows() {
+  const std::vector<base::Form*> windows = desktop_.LoadOrder();
+  for (auto form = windows.rbegin(); form != windows.rend(); ++form) {
+    if (*form == &window_) continue;
+    try {
+      desktop_.Unload(**form);
+    } catch (const base::Error&) {
+      // One window that fails to close must not keep the others open.
+    }
+  }
+}
+
+void Frame::DoMenus() {
+  const auto stored = [this](std::string_view key) {
+    return ReadBoolean(desktop_.World().settings, kDeskApplication, session_.version_section, key,
+                       false);
+  };
+  window_.MnuHgight.SetChecked(stored("MnuHgight"));
+  window_.MnuBlue.SetChecked(stored("MnuBlue"));
+  window_.MnuRWC.SetChecked(stored("MnuRWC"));
+  window_.MnuHC.SetChecked(stored("MnuHC"));
+  CopyTicks();
+}
+
+void Frame::SaveMenus() {
+  const auto save = [this](std::string_view key, const base::MenuItem& item) {
+    desktop_.World().settings.Save(kDeskApplication, session_.version_section, key,
+                                   base::BooleanText(item.Checked()));
+  };
+  save("MnuHgight", window_.MnuHgight);
+  save("MnuBlue", window_.MnuBlue);
+  save("MnuRWC", window_.MnuRWC);
+  save("MnuHC", window_.MnuHC);
+  CopyTicks();
+}
+
+void Frame::CopyTicks() {
+  session_.mnu_hgight_on = window_.MnuHgight.Checked();
+  session_.mnu_blue_on = window_.MnuBlue.Checked();
+  session_.mnu_rwc_on = window_.MnuRWC.Checked();
+  session_.mnu_hc_on = window_.MnuHC.Checked();
+}
+
+void Frame::Toggle(base::MenuItem& item) {
+  item.SetChecked(!item.Checked());
+  SaveMenus();
+  windows_.FillFromListView();
+}
+
+void Frame::MarkMainWindow(bool in_use) {
+  window_.Command17.SetBackColor(in_use ? kMarked : kCleared);
+  window_.Command17.SetEnabled(in_use);
+}
+
+void Frame::ShowHelp(base::HelpPage page) {
+  base::Ports& world = desktop_.World();
+  if (help_file_.empty() || !world.files.FileExists(help_file_)) {
+    world.boxes.Ask(kNoHelp);
+  } else {
+    world.help.Open(help_file_, page);
+  }
+}
+
+}  // namespace shell

@@ -1,0 +1,57 @@
+#include "shell/main_window_subjects.h"
+
+namespace shell {
+
+MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& desktop,
+                                       store::ErrorReporter& reporter, FrameSide& frame)
+    : place_{session, *this, desktop, reporter},
+      frame_(frame),
+      counts_(place_),
+      graph_(place_),
+      frequencies_(place_, graph_),
+      loading_side_(frame, graph_),
+      browsing_(place_, *this),
+      entry_(place_, browsing_, counts_),
+      working_copy_(place_, browsing_, entry_),
+      loading_(place_, browsing_, loading_side_),
+      main_scan_(place_, browsing_, entry_, counts_, graph_, frequencies_),
+      scan_filter_(place_, browsing_, entry_, frequencies_) {
+  on.load = [this] {
+    store::Trapped(place_.reporter, "Form_Load", [this] { Form_Load(); });
+  };
+  on.activate = [this] { loading_.Form_Activate(); };
+  on.unload = [this] { Form_Unload(); };
+  browsing_.Wire();
+  entry_.Wire();
+  graph_.Wire();
+  frequencies_.Wire();
+  main_scan_.Wire();
+  scan_filter_.Wire();
+}
+
+void MainWindowSubjects::Form_Load() {
+  PlaceLabels();
+  place_.session.main_window_loaded = true;
+  ListView1.Clear();
+  graph_.SetBarColours(scan::kBlueStyle);
+  loading_.LoadFirstDatabase();
+  graph_.Label3_Click();
+  entry_.QNDLabels();
+}
+
+void MainWindowSubjects::PlaceLabels() {
+  for (int ball = 0; ball <= store::kLastBar; ++ball) {
+    for (base::Label* label : {&Label1(ball), &Label2(ball)}) {
+      label->SetLeft(ProgressBar1(ball).Left());
+      label->SetWidth(ProgressBar1(ball).Width());
+    }
+  }
+}
+
+void MainWindowSubjects::Form_Unload() {
+  place_.session.main_window_loaded = false;
+  frame_.MarkMainWindow(false);
+  working_copy_.RewriteFromTable();
+}
+
+}  // namespace shell

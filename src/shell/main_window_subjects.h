@@ -1,0 +1,71 @@
+#pragma once
+
+#include "scan/ball_counts.h"
+#include "scan/frequencies.h"
+#include "scan/graph.h"
+#include "scan/main_scan.h"
+#include "scan/scan_filter.h"
+#include "store/browsing.h"
+#include "store/entry.h"
+#include "store/loading.h"
+#include "store/main_window.h"
+#include "store/working_copy.h"
+
+namespace shell {
+
+// The main window together with the subjects that work in it.
+class MainWindowSubjects : public store::MainWindow, private store::Browsing::Neighbours {
+ public:
+  // `frame` is what loading asks of the frame; everything must outlive the window.
+  class FrameSide {
+   public:
+    virtual ~FrameSide() = default;
+    virtual void DoMenus() = 0;
+    virtual void MarkMainWindow(bool in_use) = 0;
+    virtual void ShowStatus(const std::string& text) = 0;
+    virtual void SetHelpFile(const std::string& path) = 0;
+  };
+
+  MainWindowSubjects(store::Session& session, base::Desktop& desktop,
+                     store::ErrorReporter& reporter, FrameSide& frame);
+
+  store::Browsing& Browsing() { return browsing_; }
+  store::WorkingCopy& WorkingCopy() { return working_copy_; }
+
+  void Form_Load();
+  void Form_Unload();
+
+ private:
+  // Passes loading's wishes on to the frame and the graph.
+  class LoadingSide : public store::Loading::Neighbours {
+   public:
+    LoadingSide(FrameSide& frame, scan::Graph& graph) : frame_(frame), graph_(graph) {}
+    void DoBarColors() override { graph_.DoBarColors(); }
+    void DoMenus() override { frame_.DoMenus(); }
+    void MarkMainWindow(bool in_use) override { frame_.MarkMainWindow(in_use); }
+    void ShowStatus(const std::string& text) override { frame_.ShowStatus(text); }
+    void SetHelpFile(const std::string& path) override { frame_.SetHelpFile(path); }
+
+   private:
+    FrameSide& frame_;
+    scan::Graph& graph_;
+  };
+
+  void ReloadBuffers() override { Form_Load(); }
+  void PlaceLabels();
+
+  store::Workplace place_;
+  FrameSide& frame_;
+  scan::BallCounts counts_;
+  scan::Graph graph_;
+  scan::Frequencies frequencies_;
+  LoadingSide loading_side_;
+  store::Browsing browsing_;
+  store::Entry entry_;
+  store::WorkingCopy working_copy_;
+  store::Loading loading_;
+  scan::MainScan main_scan_;
+  scan::ScanFilter scan_filter_;
+};
+
+}  // namespace shell
