@@ -42,7 +42,12 @@ void Desktop::Activate(Form& form) {
 void Desktop::BringToFront(Form& form) {
   const auto place = std::find(open_.begin(), open_.end(), &form);
   if (place == open_.end()) return;
-  std::rotate(open_.begin(), place, place + 1);
+  // The frame is the ground that the working windows and dialogs stand on.
+  if (form.Role() == FormRole::kFrame) {
+    std::rotate(place, place + 1, open_.end());
+  } else {
+    std::rotate(open_.begin(), place, place + 1);
+  }
   View().Raised(form);
 }
 

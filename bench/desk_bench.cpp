@@ -1,0 +1,96 @@
+// How long the desk takes on 32,767 draws, the most that a database can hold, and what a plain loop
+// over the same bytes takes.
+
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "base/controls/list_controls.h"
+#include "support/test_desk.h"
+
+namespace {
+
+constexpr int kDraws = 32767;
+
+const std::vector<store::DrawRecord>& Draws() {
+  static const auto draws = test::SampleDraws(kDraws);
+  return draws;
+}
+
+// Opening: index, draw lines, table and the first draw on show.
+void OpenDatabase(benchmark::State& state) {
+  test::TestDesk desk(Draws());
+  desk.Start();
+  for (auto _ : state) {
+    state.PauseTiming();
+    desk.User().Close(desk.Main());
+    state.ResumeTiming();
+    desk.User().Choose(desk.Frame().MnuMainWindow);
+    benchmark::DoNotOptimize(desk.Main().ListView1.RowCount());
+  }
+}
+BENCHMARK(OpenDatabase)->Unit(benchmark::kMillisecond);
+
+// A full scan through the window's own procedure, yields included.
+void FullScan(benchmark::State& state) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    test::TestDesk desk(Draws());
+    desk.settings.Save("velmonte", "390", "Tips", "False");
+    desk.Start();
+    state.ResumeTiming();
+    desk.User().Click(desk.Main().CmdScan);
+    benchmark::DoNotOptimize(desk.Main().ProgressBar1(1).Value());
+    state.PauseTiming();
+    if (desk.Session().scan_tally < kDraws - 1) state.SkipWithError("the scan ended early");
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(FullScan)->Unit(benchmark::kMillisecond)->Iterations(10);
+
+// The least work that could count the same balls.
+void PlainLoop(benchmark::State& state) {
+  const std::string bytes = test::Encode(Draws());
+  for (auto _ : state) {
+    std::array<int, 100> counts{};
+    std::size_t at = 0;
+    const auto word = [&] {
+      const auto low = static_cast<unsigned char>(bytes[at]);
+      const auto high = static_cast<unsigned char>(bytes[at + 1]);
+      at += 2;
+      return static_cast<std::size_t>(low | high << 8);
+    };
+    while (at < bytes.size()) {
+      at += 2;
+      for (int field = 0; field < 9; ++field) {
+        const std::size_t length = word();
+        if (field != 6 && field != 8 && length == 2) {
+          ++counts[static_cast<std::size_t>((bytes[at] - '0') * 10 + bytes[at + 1] - '0')];
+        }
+        at += length;
+      }
+    }
+    benchmark::DoNotOptimize(counts);
+  }
+}
+BENCHMARK(PlainLoop)->Unit(benchmark::kMillisecond);
+
+// A sorted list filled with as many rows as there are draws, then read once.
+void FillSortedList(benchmark::State& state) {
+  struct Window : base::Form {
+    Window() : Form("Window", base::FormRole::kChild) { list.SetSorted(); }
+    base::ListBox list{*this, "list"};
+  } window;
+  std::vector<std::string> rows;
+  for (int i = 0; i < kDraws; ++i) rows.push_back(store::DrawLine(Draws()[static_cast<std::size_t>(i)]));
+  for (auto _ : state) {
+    window.list.Clear();
+    for (const std::string& row : rows) window.list.AddItem(row);
+    benchmark::DoNotOptimize(window.list.Row(0));
+  }
+}
+BENCHMARK(FillSortedList)->Unit(benchmark::kMillisecond);
+
+}  // namespace

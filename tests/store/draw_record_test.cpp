@@ -1,0 +1,119 @@
+#include "store/draw_record.h"
+
+#include <gtest/gtest.h>
+
+#include "base/language/error.h"
+
+namespace store {
+namespace {
+
+DrawRecord Sample() {
+  return {.spare = 0,
+          .b = {"03", "12", "19", "27", "35", "41"},
+          .day = "Sa",
+          .bb = "08",
+          .date = "05/12/05"};
+}
+
+TEST(PadBall, PadsOnlyTextsShorterThanTwo) {
+  EXPECT_EQ(PadBall(""), "00");
+  EXPECT_EQ(PadBall("7"), "07");
+  EXPECT_EQ(PadBall("07"), "07");
+  EXPECT_EQ(PadBall("123"), "123");
+}
+
+TEST(DrawRecord, LiesOnDiskAsFortyFourBytes) {
+  const std::string expected(
+      "\0\0\2\0"
+      "03\2\0"
+      "12\2\0"
+      "19\2\0"
+      "27\2\0"
+      "35\2\0"
+      "41\2\0Sa\2\0"
+      "08\10\0"
+      "05/12/05",
+      44);
+  EXPECT_EQ(EncodeRecord(Sample()), expected);
+}
+
+TEST(DrawRecord, KeepsSlotsWithoutABall) {
+  DrawRecord record = Sample();
+  record.b[5] = "00";
+  record.bb = "00";
+  EXPECT_EQ(EncodeRecord(record).size(), 44u);
+}
+
+TEST(DrawRecord, WritesSpareAsSignedLittleEndian) {
+  DrawRecord record = Sample();
+  record.spare = -2;
+  EXPECT_EQ(EncodeRecord(record).substr(0, 2), "\xFE\xFF");
+}
+
+TEST(DrawRecord, WritesEmptyTextsAsTheirLengthAlone) {
+  EXPECT_EQ(EncodeRecord(DrawRecord{}), std::string(20, '\0'));
+}
+
+TEST(DrawRecord, RefusesATextThatItsLengthCannotCount) {
+  DrawRecord record = Sample();
+  record.day = std::string(65536, 'x');
+  EXPECT_THROW(EncodeRecord(record), base::Error);
+}
+
+TEST(DrawLine, StandsInFixedColumns) {
+  EXPECT_EQ(DrawLine(Sample()), "03 12 19 27 35 41 08 05/12/05 0 Sa");
+}
+
+TEST(DrawLine, PadsABlankRecordLikeAnyOther) {
+  EXPECT_EQ(DrawLine(DrawRecord{}), "00 00 00 00 00 00 00  0 ");
+}
+
+TEST(DrawLine, PadsOneDigitBalls) {
+  DrawRecord record = Sample();
+  record.b[0] = "3";
+  record.bb = "";
+  EXPECT_EQ(DrawLine(record), "03 12 19 27 35 41 00 05/12/05 0 Sa");
+}
+
+TEST(DrawLine, ComesBackFromItsColumns) {
+  DrawRecord parsed;
+  ParseDrawLine(DrawLine(Sample()), parsed);
+  EXPECT_EQ(parsed, Sample());
+}
+
+TEST(DrawLine, IsParsedWithoutSpare) {
+  DrawRecord parsed;
+  parsed.spare = 5;
+  ParseDrawLine("03 12 19 27 35 41 08 05/12/05 0 Sa", parsed);
+  EXPECT_EQ(parsed.spare, 5);
+}
+
+TEST(DrawLine, LosesTheDayBehindAShortDate) {
+  DrawRecord record = Sample();
+  record.date = "5/12/05";
+  DrawRecord parsed;
+  ParseDrawLine(DrawLine(record), parsed);
+  EXPECT_EQ(parsed.date, "5/12/05 ");
+  EXPECT_EQ(parsed.day, "a");
+}
+
+TEST(DrawLine, LosesTheDayBehindAWideSpare) {
+  DrawRecord record = Sample();
+  record.spare = 10;
+  DrawRecord parsed;
+  ParseDrawLine(DrawLine(record), parsed);
+  EXPECT_EQ(parsed.day, " S");
+}
+
+TEST(DrawLine, GivesEmptyFieldsBehindItsEnd) {
+  DrawRecord parsed = Sample();
+  ParseDrawLine("03 12", parsed);
+  EXPECT_EQ(parsed.b[0], "03");
+  EXPECT_EQ(parsed.b[1], "12");
+  EXPECT_EQ(parsed.b[2], "");
+  EXPECT_EQ(parsed.date, "");
+  EXPECT_EQ(parsed.day, "");
+}
+
+}  // namespace
+}  // namespace store

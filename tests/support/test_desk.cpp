@@ -1,0 +1,134 @@
+#include "support/test_desk.h"
+
+#include <stdlib.h>
+
+#include <algorithm>
+#include <fstream>
+#include <sstream>
+
+#include "base/language/error.h"
+#include "base/language/text.h"
+
+namespace test {
+
+std::optional<std::string> MemorySettings::Find(std::string_view application,
+                                                std::string_view section, std::string_view key) {
+  const auto found = texts_.find(base::Lower(std::string(application) + "|" + std::string(section) +
+                                             "|" + std::string(key)));
+  if (found == texts_.end()) return std::nullopt;
+  return found->second;
+}
+
+void MemorySettings::Save(std::string_view application, std::string_view section,
+                          std::string_view key, std::string_view text) {
+  if (broken) throw base::Error(base::kPermission);
+  texts_[base::Lower(std::string(application) + "|" + std::string(section) + "|" +
+                     std::string(key))] = text;
+}
+
+base::Answer LoggedBoxes::Ask(const base::MessageBox& box) {
+  shown.push_back(box);
+  if (on_ask) on_ask();
+  if (answers.empty()) return base::DefaultAnswer(box.buttons);
+  const base::Answer answer = answers.front();
+  answers.pop_front();
+  return answer;
+}
+
+void ScriptedPump::Pump() {
+  ++yields;
+  const auto [begin, end] = actions_.equal_range(yields);
+  std::vector<std::function<void()>> now;
+  for (auto it = begin; it != end; ++it) now.push_back(it->second);
+  actions_.erase(begin, end);
+  for (const auto& action : now) action();
+}
+
+void ScriptedPump::At(int n, std::function<void()> action) {
+  actions_.emplace(yields + n, std::move(action));
+}
+
+store::DrawRecord Draw(std::initializer_list<int> balls, std::string_view day,
+                       std::string_view date) {
+  store::DrawRecord record;
+  int k = 0;
+  for (const int ball : balls) record.Ball(k++) = store::PadBall(std::to_string(ball));
+  for (; k < store::kBalls; ++k) record.Ball(k) = "00";
+  record.day = day;
+  record.date = date;
+  return record;
+}
+
+std::vector<store::DrawRecord> SampleDraws(int n) {
+  std::vector<store::DrawRecord> draws;
+  for (int i = 0; i < n; ++i) {
+    std::vector<int> balls;
+    for (int k = 0; k < 7; ++k) balls.push_back((i * 3 + k * 7) % 49 + 1);
+    std::sort(balls.begin(), balls.begin() + 6);
+    char date[16];
+    std::snprintf(date, sizeof date, "%02d/%02d/%02d", i % 28 + 1, i / 28 % 12 + 1, i / 336 % 100);
+    draws.push_back(Draw({balls[0], balls[1], balls[2], balls[3], balls[4], balls[5], balls[6]},
+                         i % 2 == 0 ? "Sa" : "We", date));
+  }
+  return draws;
+}
+
+std::string Encode(const std::vector<store::DrawRecord>& draws) {
+  std::string bytes;
+  for (const store::DrawRecord& draw : draws) bytes += store::EncodeRecord(draw);
+  return bytes;
+}
+
+TestDesk::TestDesk(const std::vector<store::DrawRecord>& draws, std::string database_name)
+    : database(std::move(database_name)) {
+  std::string pattern = (std::filesystem::temp_directory_path() / "desk-XXXXXX").string();
+  folder = mkdtemp(pattern.data());
+  std::filesystem::create_directory(folder / "DataBases");
+  WriteDatabase(Encode(draws));
+  settings.Save("Velmonte", "Data", "DataBaseName", database);
+}
+
+TestDesk::~TestDesk() {
+  desk_.reset();
+  std::error_code ignored;
+  std::filesystem::remove_all(folder, ignored);
+}
+
+void TestDesk::Start() {
+  Restart();
+  if (base::Form* splash = desk_->Find("frmSplash")) {
+    User().Click(static_cast<shell::FrmSplash*>(splash)->CmdContinue);
+  }
+}
+
+void TestDesk::Restart() {
+  base::Ports ports{boxes,       pump,          quiet_.clock,  quiet_.beeper,
+                    quiet_.shell, mail,         printer,       help,
+                    quiet_.system_information,  region,        *files,
+                    settings};
+  desk_ = std::make_unique<shell::Desk>(ports, folder.string());
+  desk_->Start();
+}
+
+std::string TestDesk::ReadFile(const std::string& name) const {
+  std::ifstream file(folder / name, std::ios::binary);
+  std::ostringstream bytes;
+  bytes << file.rdbuf();
+  return bytes.str();
+}
+
+std::string TestDesk::DatabaseBytes() const { return ReadFile("DataBases/" + database); }
+
+void TestDesk::WriteDatabase(std::string_view bytes) const {
+  std::ofstream file(folder / "DataBases" / database, std::ios::binary);
+  file << bytes;
+}
+
+std::vector<std::string> TestDesk::TakeBoxTexts() {
+  std::vector<std::string> texts;
+  for (const base::MessageBox& box : boxes.shown) texts.push_back(box.text);
+  boxes.shown.clear();
+  return texts;
+}
+
+}  // namespace test

@@ -1,0 +1,130 @@
+#pragma once
+
+#include <deque>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "base/host/host_file_system.h"
+#include "base/ports/ports.h"
+#include "shell/desk.h"
+#include "store/draw_record.h"
+
+namespace test {
+
+// Settings in memory. `keeps` false is a store that forgets, `broken` one whose Save fails.
+class MemorySettings : public base::Settings {
+ public:
+  std::optional<std::string> Find(std::string_view application, std::string_view section,
+                                  std::string_view key) override;
+  void Save(std::string_view application, std::string_view section, std::string_view key,
+            std::string_view text) override;
+  bool broken = false;
+
+ private:
+  std::map<std::string, std::string> texts_;
+};
+
+// Message boxes that log what they are asked and take their answers from a queue; an empty queue
+// answers with the default button.
+class LoggedBoxes : public base::MessageBoxes {
+ public:
+  base::Answer Ask(const base::MessageBox& box) override;
+  std::deque<base::Answer> answers;
+  std::vector<base::MessageBox> shown;
+  // Runs while a box is open, before it is answered.
+  std::function<void()> on_ask;
+};
+
+// Runs actions nested in the yields.
+class ScriptedPump : public base::EventPump {
+ public:
+  void Pump() override;
+  // Runs `action` in the nth yield from now (1 is the next one).
+  void At(int n, std::function<void()> action);
+  int yields = 0;
+
+ private:
+  std::multimap<int, std::function<void()>> actions_;
+};
+
+class LoggedMail : public base::Mail {
+ public:
+  void Send(const base::MailMessage& message) override { sent.push_back(message); }
+  std::vector<base::MailMessage> sent;
+};
+
+class LoggedHelp : public base::HelpViewer {
+ public:
+  void Open(const std::string& file, base::HelpPage page) override {
+    opened.emplace_back(file, page);
+  }
+  std::vector<std::pair<std::string, base::HelpPage>> opened;
+};
+
+class LoggedPrinter : public base::Printer {
+ public:
+  void Print(const std::string& text) override { printed.push_back(text); }
+  std::vector<std::string> printed;
+};
+
+class FixedRegion : public base::Region {
+ public:
+  base::DateOrder Dates() override { return order; }
+  base::DateOrder order = base::DateOrder::kDayFirst;
+};
+
+// A draw of a six-ball lottery with a bonus.
+store::DrawRecord Draw(std::initializer_list<int> balls, std::string_view day = "Sa",
+                       std::string_view date = "05/12/05");
+// n draws that differ from each other, on the days Saturday and Wednesday in turn, balls 1 to 49.
+std::vector<store::DrawRecord> SampleDraws(int n);
+std::string Encode(const std::vector<store::DrawRecord>& draws);
+
+// A desk on a temporary program folder with one database, every port logged.
+class TestDesk {
+ public:
+  explicit TestDesk(const std::vector<store::DrawRecord>& draws = SampleDraws(40),
+                    std::string database = "UK-National-Lottery.dat");
+  TestDesk(const TestDesk&) = delete;
+  TestDesk& operator=(const TestDesk&) = delete;
+  ~TestDesk();
+
+  // Starts the desk and presses through the splash window.
+  void Start();
+  // Starts a second process on the same folder and settings.
+  void Restart();
+  shell::Desk& Desk() { return *desk_; }
+  store::MainWindow& Main() { return *desk_->Main(); }
+  store::Session& Session() { return desk_->Session(); }
+  base::User& User() { return desk_->User(); }
+  shell::FrmMain& Frame() { return *desk_->Frame(); }
+
+  std::string DatabaseBytes() const;
+  void WriteDatabase(std::string_view bytes) const;
+  std::string ReadFile(const std::string& name) const;  // below the program folder
+  // The texts of the boxes shown since the last call.
+  std::vector<std::string> TakeBoxTexts();
+
+  std::filesystem::path folder;
+  std::string database;
+  base::HostFileSystem host_files;
+  MemorySettings settings;
+  LoggedBoxes boxes;
+  ScriptedPump pump;
+  LoggedMail mail;
+  LoggedHelp help;
+  LoggedPrinter printer;
+  FixedRegion region;
+  // The disk that the desk sees; set before Start to put another in its place.
+  base::FileSystem* files = &host_files;
+
+ private:
+  base::QuietPorts quiet_;
+  std::unique_ptr<shell::Desk> desk_;
+};
+
+}  // namespace test
