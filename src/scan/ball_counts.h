@@ -2,21 +2,20 @@
 
 #include <string_view>
 
-#include "store/entry.h"
 #include "store/workplace.h"
 
 namespace scan {
 
 // Counting into the bars, which are both the display and the store of the counts.
-class BallCounts : public store::Entry::Neighbours {
+class BallCounts {
  public:
   explicit BallCounts(store::Workplace place) : place_(place) {}
 
   // Counts the draw in current_draw: seven balls, the bonus ball like any other; balls of 0 not.
   // Error 340 for a ball without a bar.
-  void FillCommand4TagMainWindow() override;
+  void FillCommand4TagMainWindow();
   // Bars and captions to zero; the running sums stay.
-  void ZeroItMainWindow() override;
+  void ZeroItMainWindow();
 
  private:
   void CountBall(std::string_view ball_text);

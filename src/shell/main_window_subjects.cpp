@@ -11,7 +11,8 @@ MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& d
       frequencies_(place_, graph_),
       loading_side_(frame, graph_),
       browsing_(place_, *this),
-      entry_(place_, browsing_, counts_),
+      entry_(place_, browsing_, *this),
+      entry_boxes_(place_),
       working_copy_(place_, browsing_, entry_),
       loading_(place_, browsing_, loading_side_),
       main_scan_(place_, browsing_, entry_, counts_, graph_, frequencies_),
@@ -23,6 +24,7 @@ MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& d
   on.unload = [this] { Form_Unload(); };
   browsing_.Wire();
   entry_.Wire();
+  entry_boxes_.Wire();
   graph_.Wire();
   frequencies_.Wire();
   main_scan_.Wire();

@@ -7,6 +7,7 @@
 #include "scan/scan_filter.h"
 #include "store/browsing.h"
 #include "store/entry.h"
+#include "store/entry_boxes.h"
 #include "store/loading.h"
 #include "store/main_window.h"
 #include "store/working_copy.h"
@@ -14,7 +15,9 @@
 namespace shell {
 
 // The main window together with the subjects that work in it.
-class MainWindowSubjects : public store::MainWindow, private store::Browsing::Neighbours {
+class MainWindowSubjects : public store::MainWindow,
+                           private store::Browsing::Neighbours,
+                           private store::Entry::Neighbours {
  public:
   // `frame` is what loading asks of the frame; everything must outlive the window.
   class FrameSide {
@@ -52,6 +55,9 @@ class MainWindowSubjects : public store::MainWindow, private store::Browsing::Ne
   };
 
   void ReloadBuffers() override { Form_Load(); }
+  void ZeroItMainWindow() override { counts_.ZeroItMainWindow(); }
+  void FillCommand4TagMainWindow() override { counts_.FillCommand4TagMainWindow(); }
+  void DoDataBase() override { working_copy_.DoDataBase(); }
   void PlaceLabels();
 
   store::Workplace place_;
@@ -62,6 +68,7 @@ class MainWindowSubjects : public store::MainWindow, private store::Browsing::Ne
   LoadingSide loading_side_;
   store::Browsing browsing_;
   store::Entry entry_;
+  store::EntryBoxes entry_boxes_;
   store::WorkingCopy working_copy_;
   store::Loading loading_;
   scan::MainScan main_scan_;

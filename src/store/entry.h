@@ -15,31 +15,52 @@ std::string TwoLetterDay(std::string_view text);
 // The short form ("Mon") of a day text by the letters that it begins with, or the text itself.
 std::string ShortDay(std::string_view text);
 
-// The entry boxes as fields: what they do while a draw is shown, and how they are read back.
+// Entering draws: adding, saving, clearing, editing in place, pasting a line.
 class Entry {
  public:
-  // What entry asks of the scan.
+  // What entry asks of the scan and of the working copy.
   class Neighbours {
    public:
     virtual ~Neighbours() = default;
     virtual void ZeroItMainWindow() = 0;
     virtual void FillCommand4TagMainWindow() = 0;
+    virtual void DoDataBase() = 0;
   };
 
   Entry(Workplace place, Browsing& browsing, Neighbours& neighbours)
       : place_(place), browsing_(browsing), neighbours_(neighbours) {}
 
-  // Gives the boxes and buttons of entry their events.
+  // Gives the buttons of entry their events.
   void Wire();
 
+  void cmdAdd_Click();
+  void cmdSave_Click();
+  void cmdClear_Click();
   void CmdReset_Click();
+  void cmdedit_Click();
+  // Takes apart a line of results that was pasted into the first box.
+  void TxtBall01_MouseUp();
+
   // Puts the product's name back where notices stand.
   void QNDLabels();
   // Copies the boxes into current_draw, balls padded and the day in two letters.
   void SaveFields();
+  // Appends the boxes as a new draw. An error goes to the reporter, with the file as it was; false
+  // then.
+  bool SaveNewRecord();
+  // Balls to two digits, and the day's two letters into day_text.
+  void DoTextBox();
 
  private:
-  void EnableSlot(base::TextBox& box, int heading, bool filled);
+  void StartEdit();
+  void SaveEdit();
+  void ReplaceEditedLine();
+  bool BoxesAreValid();
+  void CheckValidData();
+  bool CheckSaveBoxes(base::TextBox& box, const std::string& name);
+  void SortBoxes();
+  void ShowSavedDraw();
+  std::string LineOfBoxes();
 
   Workplace place_;
   Browsing& browsing_;

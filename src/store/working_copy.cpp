@@ -81,6 +81,7 @@ void WorkingCopy::AppendLines() {
   for (int row = 0; row < lines.ListCount(); ++row) {
     lines.SetListIndex(row);
     ParseDrawLine(lines.Text(), session.current_draw);
+    session.current_draw.day = TwoLetterDay(session.current_draw.day);
     Add(batch, session.file_len, session.current_draw);
   }
   session.file.AppendBytes(batch.bytes);

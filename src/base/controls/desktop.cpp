@@ -94,6 +94,10 @@ void Desktop::FocusNext() {
   }
 }
 
+void Desktop::TakeSentTabs() {
+  for (; tabs_sent_ > 0; --tabs_sent_) FocusNext();
+}
+
 void Desktop::Dispatch(const std::function<void()>& event) {
   ++depth_;
   try {

@@ -59,6 +59,10 @@ class Desktop {
   void SetFocus(Control& control);
   // The next control in the order of the window that can take the focus.
   void FocusNext();
+  // Asks for a Tab key once the running key has done its work.
+  void SendTab() { ++tabs_sent_; }
+  // Moves the focus on for each Tab asked for.
+  void TakeSentTabs();
 
   // Runs one event. An Error that no trap takes is shown as a run-time error and ends the event.
   void Dispatch(const std::function<void()>& event);
@@ -77,6 +81,7 @@ class Desktop {
   std::vector<Form*> load_order_;
   Control* focused_ = nullptr;
   int depth_ = 0;
+  int tabs_sent_ = 0;
   std::vector<std::shared_ptr<void>> buried_;
 };
 

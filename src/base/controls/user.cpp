@@ -116,6 +116,7 @@ void User::TypeCharacter(char character) {
         box.SetText(box.Text() + key);
       }
     }
+    desktop_.TakeSentTabs();
     // The key is let go where the focus is by then.
     if (Control* const now = desktop_.Focused()) Run(now->on.key_up, code);
   });
