@@ -13,6 +13,7 @@ MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& d
       browsing_(place_, *this),
       entry_(place_, browsing_, *this),
       entry_boxes_(place_),
+      row_editor_(place_),
       working_copy_(place_, browsing_, entry_),
       loading_(place_, browsing_, loading_side_),
       main_scan_(place_, browsing_, entry_, counts_, graph_, frequencies_),
@@ -25,6 +26,7 @@ MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& d
   browsing_.Wire();
   entry_.Wire();
   entry_boxes_.Wire();
+  row_editor_.Wire();
   graph_.Wire();
   frequencies_.Wire();
   main_scan_.Wire();

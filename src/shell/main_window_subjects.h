@@ -10,6 +10,7 @@
 #include "store/entry_boxes.h"
 #include "store/loading.h"
 #include "store/main_window.h"
+#include "store/row_editor.h"
 #include "store/working_copy.h"
 
 namespace shell {
@@ -69,6 +70,7 @@ class MainWindowSubjects : public store::MainWindow,
   store::Browsing browsing_;
   store::Entry entry_;
   store::EntryBoxes entry_boxes_;
+  store::RowEditor row_editor_;
   store::WorkingCopy working_copy_;
   store::Loading loading_;
   scan::MainScan main_scan_;

@@ -58,6 +58,9 @@ void MainWindow::SetCaptions() {
       {Label4, "Combinations"},
       {Label5, "Graph options"},
       {Label8, "Scan Filter"},
+      {Command18, "Remove"},
+      {Label18, "Accept"},
+      {CmdCancelSave, "Cancel"},
       {Option6, "Scan Entirety"},
       {OpScanRange, "Scan Selected Range"},
       {LblStartAt, "Start scan at draw number"},
@@ -84,6 +87,7 @@ void MainWindow::SetFirstValues() {
   OpScanRange.SetGroup("scan");
   Option6.SetValue(true);
   Frame4.SetVisible(false);
+  Picture6.SetVisible(false);
   TxtStartDrawAt(0).SetText("0");
   TxtStartDrawAt(1).SetText("0");
   TxtStartDrawAt(1).SetToolTipText("Set to 0 to scan to the end of database");

@@ -73,6 +73,13 @@ class MainWindow : public base::Form {
   base::ListView ListView1{*this, "ListView1"};
   base::ListBox List7{*this, "List7"};
 
+  base::Button Command18{*this, "Command18"};  // removes the selected row
+
+  base::Panel Picture6{*this, "Picture6"};  // the row editor, in front of the table
+  base::Group<base::TextBox> TxtChange{*this, "TxtChange", 0, 8};
+  base::Label Label18{*this, "Label18"};
+  base::Button CmdCancelSave{*this, "CmdCancelSave"};
+
   base::Panel Picture3{*this, "Picture3"};  // combinations
   base::Panel Picture5{*this, "Picture5"};  // graph options
 

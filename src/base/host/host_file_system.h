@@ -1,0 +1,25 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/ports/file_system.h"
+
+namespace base {
+
+// The files of this machine. Errors carry the classic number; where the host has words of its own
+// (permission, full disk, path), they stand behind the classic ones.
+class HostFileSystem : public FileSystem {
+ public:
+  bool FileExists(const std::string& path) override;
+  bool FolderExists(const std::string& path) override;
+  std::unique_ptr<File> Open(const std::string& path) override;
+  std::string ReadAll(const std::string& path) override;
+  void Replace(const std::string& path, std::string_view bytes) override;
+  void Remove(const std::string& path) override;
+  std::vector<std::string> List(const std::string& folder, const std::string& ending) override;
+};
+
+}  // namespace base

@@ -1,0 +1,64 @@
+#include "base/host/profile.h"
+
+#include "base/language/error.h"
+#include "base/language/text.h"
+
+namespace base {
+namespace {
+
+constexpr std::size_t kLongestValue = 254;
+constexpr std::string_view kBlanks = " \t\r\v\f";
+
+std::string_view Trim(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+std::string_view WithoutQuotes(std::string_view value) {
+  const bool quoted = value.size() >= 2 && (value.front() == '"' || value.front() == '\'') &&
+                      value.back() == value.front();
+  return quoted ? value.substr(1, value.size() - 2) : value;
+}
+
+// The name between the brackets of a heading line; false for any other line.
+bool ReadHeading(std::string_view line, std::string_view& name) {
+  if (line.empty() || line.front() != '[') return false;
+  const std::size_t end = line.find(']');
+  name = Trim(line.substr(1, end == std::string_view::npos ? end : end - 1));
+  return true;
+}
+
+}  // namespace
+
+std::string ReadIniText(std::string_view text, std::string_view section, std::string_view key) {
+  bool in_section = false;
+  while (!text.empty()) {
+    const std::size_t end = text.find('\n');
+    const std::string_view line = Trim(text.substr(0, end));
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    std::string_view heading;
+    if (ReadHeading(line, heading)) {
+      if (in_section) return {};  // the first section of the name is the one that counts
+      in_section = EqualNoCase(heading, section);
+      continue;
+    }
+    if (!in_section || line.empty() || line.front() == ';') continue;
+    const std::size_t equals = line.find('=');
+    if (equals == std::string_view::npos) continue;
+    if (!EqualNoCase(Trim(line.substr(0, equals)), key)) continue;
+    return std::string(WithoutQuotes(Trim(line.substr(equals + 1))).substr(0, kLongestValue));
+  }
+  return {};
+}
+
+std::string ReadIniString(FileSystem& files, std::string_view section, std::string_view key,
+                          const std::string& path) {
+  try {
+    return ReadIniText(files.ReadAll(path), section, key);
+  } catch (const Error&) {
+    return {};
+  }
+}
+
+}  // namespace base

@@ -1,0 +1,160 @@
+#include "base/host/host_file_system.h"
+
+#include <gtest/gtest.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "base/host/host_paths.h"
+#include "base/language/error.h"
+#include "support/temp_folder.h"
+
+namespace test {
+namespace {
+
+namespace fs = std::filesystem;
+
+int ErrorOf(const std::function<void()>& act) {
+  try {
+    act();
+  } catch (const base::Error& error) {
+    return error.Number();
+  }
+  return 0;
+}
+
+class HostFiles : public testing::Test {
+ protected:
+  std::string Path(const std::string& name) const { return folder_.Path() + "\\" + name; }
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder_.Path())) {
+      names.push_back(entry.path().filename());
+    }
+    return names;
+  }
+  TempFolder folder_;
+  base::HostFileSystem files_;
+};
+
+TEST_F(HostFiles, TakeEitherSeparatorAndAnyCase) {
+  fs::create_directory(folder_.Path() + "/DataBases");
+  files_.Replace(Path("\\Databases/Mine.dat"), "x");
+  EXPECT_TRUE(files_.FileExists(Path("/DATABASES\\mine.DAT")));
+  EXPECT_EQ(fs::file_size(folder_.Path() + "/DataBases/Mine.dat"), 1u);
+  EXPECT_TRUE(files_.FolderExists(Path("databases")));
+  EXPECT_FALSE(files_.FileExists(Path("databases")));
+}
+
+TEST_F(HostFiles, PreferTheExactSpelling) {
+  files_.Replace(Path("a"), "small");
+  files_.Replace(folder_.Path() + "/A2", "");
+  fs::rename(folder_.Path() + "/A2", folder_.Path() + "/A");
+  EXPECT_EQ(files_.ReadAll(Path("a")), "small");
+  EXPECT_EQ(files_.ReadAll(Path("A")), "");
+}
+
+TEST_F(HostFiles, TranslateNamesFromTheCodePage) {
+  files_.Replace(Path("\xA3.dat"), "x");
+  EXPECT_TRUE(fs::exists(folder_.Path() + "/\xC2\xA3.dat"));
+}
+
+TEST_F(HostFiles, OpeningCreatesAnEmptyFile) {
+  const auto file = files_.Open(Path("new.dat"));
+  EXPECT_EQ(file->Length(), 0);
+  EXPECT_TRUE(files_.FileExists(Path("new.dat")));
+}
+
+TEST_F(HostFiles, AppendGoesBehindWhatIsThere) {
+  files_.Replace(Path("a"), "one");
+  const auto file = files_.Open(Path("a"));
+  file->Append("two");
+  EXPECT_EQ(file->ReadAt(0, 100), "onetwo");
+  EXPECT_EQ(file->ReadAt(3, 2), "tw");
+  EXPECT_EQ(file->ReadAt(50, 2), "");
+}
+
+TEST_F(HostFiles, ReplaceLeavesNothingBeside) {
+  files_.Replace(Path("a"), "one");
+  files_.Replace(Path("a"), "two");
+  EXPECT_EQ(files_.ReadAll(Path("a")), "two");
+  EXPECT_EQ(Names(), std::vector<std::string>{"a"});
+}
+
+TEST_F(HostFiles, ReplaceKeepsALinkAndTheMode) {
+  files_.Replace(Path("real"), "one");
+  chmod((folder_.Path() + "/real").c_str(), 0600);
+  fs::create_symlink("real", folder_.Path() + "/link");
+  files_.Replace(Path("link"), "two");
+  EXPECT_TRUE(fs::is_symlink(folder_.Path() + "/link"));
+  EXPECT_EQ(files_.ReadAll(Path("real")), "two");
+  EXPECT_EQ(fs::status(folder_.Path() + "/real").permissions(), fs::perms(0600));
+}
+
+TEST_F(HostFiles, TellTheClassicErrors) {
+  fs::create_directory(folder_.Path() + "/sub");
+  EXPECT_EQ(ErrorOf([&] { files_.ReadAll(Path("none")); }), 53);
+  EXPECT_EQ(ErrorOf([&] { files_.Remove(Path("none")); }), 53);
+  EXPECT_EQ(ErrorOf([&] { files_.Open(Path("sub")); }), 75);
+  EXPECT_EQ(ErrorOf([&] { files_.Replace(Path("sub"), "x"); }), 75);
+  EXPECT_EQ(ErrorOf([&] { files_.Open(Path("nowhere/a")); }), 76);
+  EXPECT_EQ(ErrorOf([&] { files_.Replace(Path("nowhere/a"), "x"); }), 76);
+}
+
+TEST_F(HostFiles, CarryTheHostsOwnWords) {
+  try {
+    files_.Open(Path("nowhere/a"));
+    FAIL();
+  } catch (const base::Error& error) {
+    EXPECT_EQ(error.Description().substr(0, 16), "Path not found: ");
+  }
+}
+
+TEST_F(HostFiles, AFileThatMayNotBeWrittenOpensForReading) {
+  if (geteuid() == 0) GTEST_SKIP() << "root may write everything";
+  files_.Replace(Path("a"), "one");
+  chmod((folder_.Path() + "/a").c_str(), 0400);
+  const auto file = files_.Open(Path("a"));
+  EXPECT_EQ(file->ReadAt(0, 3), "one");
+  EXPECT_EQ(ErrorOf([&] { file->Append("x"); }), 70);
+}
+
+TEST_F(HostFiles, ListFilesByTheirEnding) {
+  for (const char* name : {"b.DAT", "a.dat", "c.txt"}) files_.Replace(Path(name), "");
+  fs::create_directory(folder_.Path() + "/d.dat");
+  EXPECT_EQ(files_.List(folder_.Path(), ".dat"), (std::vector<std::string>{"a.dat", "b.DAT"}));
+  EXPECT_TRUE(files_.List(Path("nowhere"), ".dat").empty());
+}
+
+// A real disk of 64 KiB, where this machine lets us have one.
+class SmallDisk : public HostFiles {
+ protected:
+  void SetUp() override {
+    mounted_ = mount("tmpfs", folder_.Path().c_str(), "tmpfs", 0, "size=64k") == 0;
+    if (!mounted_) GTEST_SKIP() << "no disk can be mounted here";
+  }
+  void TearDown() override {
+    if (mounted_) umount2(folder_.Path().c_str(), MNT_DETACH);
+  }
+  bool mounted_ = false;
+};
+
+TEST_F(SmallDisk, AFullDiskCutsAnAppendBack) {
+  const auto file = files_.Open(Path("a"));
+  file->Append(std::string(1000, 'x'));
+  EXPECT_EQ(ErrorOf([&] { file->Append(std::string(200000, 'y')); }), 61);
+  EXPECT_EQ(file->Length(), 1000);
+  EXPECT_EQ(file->ReadAt(0, 2000), std::string(1000, 'x'));
+}
+
+TEST_F(SmallDisk, AFullDiskLeavesTheOldFileWhole) {
+  files_.Replace(Path("a"), "old");
+  EXPECT_EQ(ErrorOf([&] { files_.Replace(Path("a"), std::string(200000, 'y')); }), 61);
+  EXPECT_EQ(files_.ReadAll(Path("a")), "old");
+  EXPECT_EQ(Names(), std::vector<std::string>{"a"});
+}
+
+}  // namespace
+}  // namespace test

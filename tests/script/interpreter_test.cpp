@@ -1,0 +1,305 @@
+#include "script/interpreter.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sstream>
+
+#include "script/program.h"
+
+namespace script {
+namespace {
+
+struct Played {
+  int status = 0;
+  std::string out;
+  std::string err;
+};
+
+// Plays a script on a fresh copy of what is delivered.
+Played Play(const std::string& script, const std::vector<std::string>& options = {}) {
+  std::istringstream in(script);
+  std::ostringstream out;
+  std::ostringstream err;
+  const int status = RunProgram(options, in, out, err);
+  return {status, out.str(), err.str()};
+}
+
+TEST(Interpreter, AnEmptyScriptRunsWhole) {
+  const Played played = Play("\n# nothing\n  \r\n");
+  EXPECT_EQ(played.status, 0);
+  EXPECT_EQ(played.out, "");
+  EXPECT_EQ(played.err, "");
+}
+
+TEST(Interpreter, OnlyQuestionsPrint) {
+  const Played played = Play(
+      "\xEF\xBB\xBF"
+      "start\n"
+      "click MainWindow.cmdNext\n"
+      "get mainwindow.txtrecnum\n"
+      "get MainWindow.ListView1.SelectedIndex\r\n"
+      "get MainWindow.Option6\n"
+      "get MainWindow.Check1\n"
+      "get MainWindow.Combo7\n"
+      "get MainWindow.CmdScan\n"
+      "get MainWindow.CmdScan.Enabled\n"
+      "get FRMMAIN.Label1.BackColor\n"
+      "get frmMain.MnuBlue.Checked\n"
+      "global currentdrawnumber\n"
+      "focused");
+  EXPECT_EQ(played.err, "");
+  EXPECT_EQ(played.status, 0);
+  EXPECT_EQ(played.out,
+            "\"1\"\n2\ntrue\n1\n\"All Days\"\n\"Scan\"\ntrue\n2147483651\nfalse\n1\n"
+            "\"MainWindow.cmdNext\"\n");
+}
+
+TEST(Interpreter, TellsWhereTheScriptIsWrong) {
+  const struct {
+    const char* script;
+    const char* told;
+  } table[] = {
+      {"start\n\ndance\n", "-:3: unknown command: dance\n"},
+      {"click MainWindow.CmdScan", "-:1: the desk has not been started\n"},
+      {"start\nstart", "-:2: the desk is running already\n"},
+      {"start\nget Nowhere.Label1", "-:2: no window is open that is called Nowhere\n"},
+      {"start\nclick FrmOptions.Label3", "-:2: no window is open that is called FrmOptions\n"},
+      {"start\nclick MainWindow.Label99", "-:2: there is no control MainWindow.Label99\n"},
+      {"start\nclick MainWindow.Label2", "-:2: there is no control MainWindow.Label2\n"},
+      {"start\nget MainWindow.Label2(100)",
+       "-:2: there is no control or property MainWindow.Label2(100)\n"},
+      {"start\nget MainWindow.txtDate.Colour",
+       "-:2: there is no property MainWindow.txtDate.Colour\n"},
+      {"start\nclick MainWindow.cmdSave", "-:2: MainWindow.cmdSave is disabled\n"},
+      {"start\nmenu MnuStdDev", "-:2: frmMain.MnuStdDev is disabled\n"},
+      {"start\nmenu Label1", "-:2: frmMain.Label1 is no menu item\n"},
+      {"start\npick MainWindow.Combo7 \"Doomsday\"", "-:2: no row reads: Doomsday\n"},
+      {"start\npick MainWindow.Combo7 8", "-:2: MainWindow.Combo7 has no such item\n"},
+      {"start\npick MainWindow.ListView1 0", "-:2: MainWindow.ListView1 has no such row\n"},
+      {"start\npick MainWindow.CmdScan 1", "-:2: MainWindow.CmdScan has no rows\n"},
+      {"start\nrows MainWindow.CmdScan", "-:2: MainWindow.CmdScan has no rows\n"},
+      {"start\npaste MainWindow.Combo7 \"x\"", "-:2: MainWindow.Combo7 is no text box\n"},
+      {"start\nfocus MainWindow.Label3", "-:2: MainWindow.Label3 cannot take the focus\n"},
+      {"start\ntype MainWindow.TxtBall01 \"{Moon}\"", "-:2: no key is called {Moon}\n"},
+      {"start\nglobal Moon", "-:2: no shared state is called Moon\n"},
+      {"call Moon 1", "-:1: there is no function Moon\n"},
+      {"call PadBall", "-:1: call needs more words\n"},
+      {"windows now", "-:1: windows has too many words: now\n"},
+      {"answer maybe", "-:1: no answer to a box: maybe\n"},
+      {"clock noon", "-:1: no time of the form 2005-12-05 14:30:00: noon\n"},
+      {"clock \"2005-02-30 00:00:00\"",
+       "-:1: no time of the form 2005-12-05 14:30:00: 2005-02-30 00:00:00\n"},
+      {"during 0 beeps", "-:1: during needs the number of a yield, from 1\n"},
+      {"during 1 dance", "-:1: unknown command: dance\n"},
+      {"during 1", "-:1: a command is missing\n"},
+      {"expect stop = 1", "-:1: no question: stop\n"},
+      {"expect beeps == 1", "-:1: expect needs QUESTION = JSON or QUESTION ~ \"REGEX\"\n"},
+      {"\"beeps\"", "-:1: unknown command: beeps\n"},
+  };
+  for (const auto& row : table) {
+    const Played played = Play(row.script);
+    EXPECT_EQ(played.status, 2) << row.script;
+    EXPECT_EQ(played.err, row.told);
+  }
+}
+
+TEST(Interpreter, AFailedExpectEndsTheRun) {
+  const Played played = Play("expect beeps = 0\nexpect beeps = 1\nbeeps\n");
+  EXPECT_EQ(played.status, 1);
+  EXPECT_EQ(played.out, "");
+  EXPECT_EQ(played.err, "-:2: beeps is 0 and not 1\n");
+}
+
+TEST(Interpreter, KeepGoingTellsEveryDifference) {
+  const Played played = Play("expect beeps = 1\nbeeps\nexpect windows ~ \"x\"\n", {"--keep-going"});
+  EXPECT_EQ(played.status, 1);
+  EXPECT_EQ(played.out, "0\n");
+  EXPECT_EQ(played.err, "-:1: beeps is 0 and not 1\n-:3: windows is [] and does not match \"x\"\n");
+}
+
+TEST(Interpreter, KeepGoingEndsAtAWrongLine) {
+  const Played played = Play("expect beeps = 1\ndance\nbeeps\n", {"--keep-going"});
+  EXPECT_EQ(played.status, 2);
+  EXPECT_EQ(played.out, "");
+}
+
+TEST(Interpreter, DuringRunsNestedInTheYield) {
+  const Played played = Play(
+      "start\n"
+      "during 30 get MainWindow.CmdScan\n"
+      "during 31 click MainWindow.CmdScan\n"
+      "click MainWindow.CmdScan\n"
+      "get MainWindow.CmdScan\n"
+      "expect get MainWindow.txtRecNum ~ \"^.[0-9]{1,2}.$\"\n");
+  EXPECT_EQ(played.err, "");
+  EXPECT_EQ(played.out, "\"Stop\"\n\"Scan\"\n");
+  EXPECT_EQ(played.status, 0);
+}
+
+TEST(Interpreter, DuringMayQueueDuring) {
+  const Played played = Play(
+      "start\n"
+      "during 10 during 1 get MainWindow.CmdScan\n"
+      "click MainWindow.CmdScan\n");
+  EXPECT_EQ(played.err, "");
+  EXPECT_EQ(played.out, "\"Stop\"\n");
+}
+
+TEST(Interpreter, ErrorsInsideAYieldEndTheRunAtTheirLine) {
+  const char* const kScan = "click MainWindow.CmdScan\nbeeps\n";
+  const struct {
+    const char* during;
+    int status;
+    const char* told;
+  } table[] = {
+      {"during 20 click MainWindow.cmdFirst\n", 2, "-:2: MainWindow.cmdFirst is disabled\n"},
+      {"during 20 get FrmOptions\n", 2, "-:2: no window is open that is called FrmOptions\n"},
+      {"during 20 expect beeps = 1\n", 1, "-:2: beeps is 0 and not 1\n"},
+  };
+  for (const auto& row : table) {
+    const Played played = Play(std::string("start\n") + row.during + kScan);
+    EXPECT_EQ(played.status, row.status) << row.during;
+    EXPECT_EQ(played.out, "") << row.during;
+    EXPECT_EQ(played.err, row.told);
+  }
+}
+
+TEST(Interpreter, TheUserMayCloseTheDeskInAYield) {
+  const Played played = Play("start\nduring 50 stop\nclick MainWindow.CmdScan\nwindows\n");
+  EXPECT_EQ(played.err, "");
+  EXPECT_EQ(played.out, "[]\n");
+}
+
+TEST(Interpreter, AnswersAndBoxes) {
+  const Played played = Play(
+      "start\n"
+      "answer no yes\n"
+      "click MainWindow.cmdLast\n"
+      "click MainWindow.CmdScan\n"
+      "boxes\n"
+      "boxes\n");
+  EXPECT_EQ(played.err, "");
+  EXPECT_EQ(played.out,
+            "[{\"kind\":\"message\",\"title\":\"Last Record\",\"text\":\"This will start a new "
+            "scan, continue.\",\"icon\":\"none\",\"buttons\":\"yesno\",\"default\":\"yes\","
+            "\"answer\":\"no\"}]\n[]\n");
+}
+
+TEST(Interpreter, AnAnswerWithoutAButtonIsWrong) {
+  const Played played =
+      Play("start\nclick MainWindow.cmdLast\nanswer retry\nclick MainWindow.CmdScan\n");
+  EXPECT_EQ(played.status, 2);
+  EXPECT_EQ(played.err,
+            "-:4: a box has no button for the answer retry: This will start a new scan, "
+            "continue.\n");
+}
+
+TEST(Interpreter, PicksByNumberAndByText) {
+  const Played played = Play(
+      "start\n"
+      "pick MainWindow.ListView1 3\n"
+      "get MainWindow.txtRecNum\n"
+      "pick MainWindow.ListView1 \"06\"\n"
+      "get MainWindow.txtRecNum\n"
+      "pick MainWindow.List7 5\n"
+      "get MainWindow.List7.ListIndex\n"
+      "global CurrentDrawNumber\n"
+      "pick MainWindow.Combo7 1\n"
+      "get MainWindow.Combo7\n");
+  EXPECT_EQ(played.err, "");
+  EXPECT_EQ(played.out, "\"2\"\n\"1\"\n5\n6\n\"Saturday\"\n");
+}
+
+TEST(Interpreter, CallsPlainFunctions) {
+  const struct {
+    const char* call;
+    const char* printed;
+  } table[] = {
+      {"PadBall \"7\"", "\"07\""},
+      {"padball 123", "\"123\""},
+      {"DoubleText 0.5", "\"0.5\""},
+      {"SingleText 0.1", "\"0.1\""},
+      {"ToInt16 2.5", "2"},
+      {"ToInt16 \"3.5\"", "4"},
+      {"ToInt16 32767.5", R"({"error":6,"description":"Overflow"})"},
+      {"ToInt32 \"12a\"", R"({"error":13,"description":"Type mismatch"})"},
+      {"ToByte 255", "255"},
+      {"NumericValue \"12a\"", "12"},
+      {"IsDate \"12/2005\"", "true"},
+      {"DateText \"05/12/2005\" \"dddd\"", "\"Thursday\""},
+      {"WeekDayName \"05/12/2005\"", "\"Thursday\""},
+      {"CompareText \"a\" \"B\"", "-1"},
+  };
+  for (const auto& row : table) {
+    const Played played = Play(std::string("call ") + row.call);
+    EXPECT_EQ(played.err, "") << row.call;
+    EXPECT_EQ(played.out, std::string(row.printed) + "\n") << row.call;
+  }
+  EXPECT_EQ(Play("call WeekDayName \"05/12/2005\"", {"--date-order", "uk"}).out, "\"Monday\"\n");
+}
+
+TEST(Interpreter, ReadsDrawsAndFiles) {
+  const Played played = Play(
+      "start\n"
+      "call DrawLine 1\n"
+      "call DrawLine 0.2e6\n"
+      "file \"DataBases/none.txt\"\n"
+      "file \"/databases/UK-National-Lottery.dat\"\n");
+  EXPECT_EQ(played.err, "");
+  EXPECT_TRUE(
+      played.out.starts_with("\"03 05 14 22 30 44 10 19/11/94 0 Sa\"\n"
+                             "{\"error\":9,\"description\":\"Subscript out of range\"}\n"
+                             "null\n\"\\u0000"))
+      << played.out;
+}
+
+TEST(Interpreter, SettingsAreStoredAndAsked) {
+  const Played played = Play(
+      "setting Velmonte Data DataBaseName\n"
+      "setting Velmonte Data DataBaseName \"US-MultiState-Powerball.dat\"\n"
+      "start\n"
+      "global FileLen\n"
+      "setting VELMONTE data databasename\n");
+  EXPECT_EQ(played.err, "");
+  EXPECT_EQ(played.out,
+            "null\n\"US-MultiState-Powerball.dat\"\n57508\n\"US-MultiState-Powerball.dat\"\n");
+}
+
+TEST(Interpreter, ASecondStartIsASecondProcessOnTheSameSettings) {
+  const Played played = Play(
+      "start\n"
+      "menu frmMain.MnuRWC\n"
+      "stop\n"
+      "windows\n"
+      "global MainWindowLoaded\n"
+      "start splash\n"
+      "windows\n"
+      "click frmSplash.CmdContinue\n"
+      "get frmMain.MnuRWC.Checked\n");
+  EXPECT_EQ(played.err, "");
+  EXPECT_EQ(played.out,
+            "[]\nfalse\n[{\"name\":\"frmSplash\",\"caption\":\"Quorbit Number Desk\"}]\ntrue\n");
+}
+
+TEST(Interpreter, TextsCrossTheCodePage) {
+  const Played played = Play("setting a b c \"\xC2\xA3 \\u20ac \xE6\x9C\x88\"\n");
+  EXPECT_EQ(played.out, "\"\xC2\xA3 \xE2\x82\xAC ?\"\n");
+}
+
+TEST(Program, NamesTheScriptFileInMessages) {
+  const auto file = std::filesystem::temp_directory_path() / "no such script.desk";
+  const Played played = Play("", {file.string()});
+  EXPECT_EQ(played.status, 2);
+  EXPECT_EQ(played.err, "number-desk-script: " + file.string() + " cannot be read\n");
+}
+
+TEST(Program, RefusesWrongOptions) {
+  EXPECT_EQ(Play("", {"--moon"}).status, 2);
+  EXPECT_EQ(Play("", {"--folder", "/does/not/exist"}).status, 2);
+  EXPECT_EQ(Play("", {"--help"}).status, 0);
+  EXPECT_EQ(Play("", {"--version"}).out, "number-desk-script 3.9.0\n");
+}
+
+}  // namespace
+}  // namespace script

@@ -1,0 +1,256 @@
+#include "store/entry.h"
+
+#include <gtest/gtest.h>
+
+#include "base/language/error.h"
+#include "support/failing_disk.h"
+#include "support/test_desk.h"
+
+namespace test {
+namespace {
+
+void StartQuietly(TestDesk& desk) {
+  desk.settings.Save("velmonte", "390", "Tips", "False");
+  desk.Start();
+}
+
+void TypeDraw(TestDesk& desk, std::initializer_list<const char*> balls, const char* bonus,
+              const char* day, const char* date) {
+  desk.User().Click(desk.Main().cmdAdd);
+  int k = 0;
+  for (const char* ball : balls) desk.Main().BallBox(k++).SetText(ball);
+  desk.Main().TxtBallBB.SetText(bonus);
+  desk.Main().TxtBall07.SetText(day);
+  desk.Main().txtDate.SetText(date);
+}
+
+std::string LastRecord(const TestDesk& desk) { return desk.DatabaseBytes().substr(40 * 44); }
+
+TEST(Entry, AddingClearsTheBoxesAndTellsTheLastEntry) {
+  TestDesk desk;
+  desk.Start();
+  desk.User().Click(desk.Main().cmdAdd);
+  ASSERT_EQ(desk.boxes.shown.size(), 1u);
+  EXPECT_EQ(desk.boxes.shown[0].text,
+            "Tip: You may paste one line of numbers including the date into field B1\r\n"
+            "You may use the reset button to cancel the Add action at any time");
+  EXPECT_EQ(desk.Main().lblProductName1(4).Caption(), "The last entry was on Wed the 12/02/00");
+  EXPECT_EQ(desk.Main().TxtBall01.Text(), "");
+  EXPECT_EQ(desk.Main().txtDate.Text(), "");
+  EXPECT_EQ(desk.Session().current_draw_number, 41);
+  EXPECT_EQ(desk.Session().draw_count, 40);
+  EXPECT_FALSE(desk.Main().CmdScan.Enabled());
+  EXPECT_FALSE(desk.Main().cmdFirst.Enabled());
+  EXPECT_TRUE(desk.Main().cmdSave.Enabled());
+  EXPECT_TRUE(desk.Main().CmdReset.Enabled());
+  EXPECT_EQ(desk.Desk().Desktop().Focused(), &desk.Main().TxtBall01);
+}
+
+TEST(Entry, SavesADrawInAscendingOrder) {
+  TestDesk desk;
+  StartQuietly(desk);
+  TypeDraw(desk, {"07", "03", "12", "20", "30", "40"}, "", "sa", "05/12/05");
+  desk.User().Click(desk.Main().cmdSave);
+  EXPECT_TRUE(desk.boxes.shown.empty());
+  EXPECT_EQ(LastRecord(desk), store::EncodeRecord(Draw({3, 7, 12, 20, 30, 40}, "Sa")));
+  EXPECT_EQ(desk.Main().List7.Row(40), "03 07 12 20 30 40 00 05/12/05 0 Sa");
+  EXPECT_EQ(desk.Main().List7.ListIndex(), 40);
+  EXPECT_EQ(desk.Main().ListView1.Cell(41, 8), "Sa");
+  EXPECT_EQ(desk.Session().UpperBound(), 41);
+  EXPECT_EQ(desk.Session().current_draw_number, 41);
+  EXPECT_EQ(desk.Main().TxtStartDrawAt(0).Text(), "41");
+  EXPECT_EQ(desk.Main().TxtBall01.Text(), "3");
+}
+
+TEST(Entry, KeepsAnEmptySlotWhereItWasTyped) {
+  TestDesk desk;
+  StartQuietly(desk);
+  TypeDraw(desk, {"40", "12", "00", "31", "22", "05"}, "09", "Mo", "05/12/05");
+  desk.User().Click(desk.Main().cmdSave);
+  EXPECT_EQ(LastRecord(desk), store::EncodeRecord(Draw({12, 40, 0, 5, 22, 31, 9}, "Mo")));
+}
+
+TEST(Entry, OneDigitIsStoredAsTwo) {
+  TestDesk desk;
+  StartQuietly(desk);
+  TypeDraw(desk, {"1", "2", "3", "4", "5", "6"}, "7", "xx", "5/12");
+  desk.User().Click(desk.Main().cmdSave);
+  EXPECT_EQ(LastRecord(desk), store::EncodeRecord(Draw({1, 2, 3, 4, 5, 6, 7}, "xx", "5/12")));
+}
+
+struct Refusal {
+  std::initializer_list<const char*> balls;
+  const char* day;
+  const char* date;
+  const char* text;
+};
+
+TEST(Entry, RefusesWhatIsNoDrawAndWritesNothing) {
+  const Refusal refusals[] = {
+      {{"01", "02", "", "04", "05", "06"},
+       "Sa",
+       "05/12/05",
+       "Please type a number into textbox B3"},
+      {{"01", "02", "03", "04", "05", "123"},
+       "Sa",
+       "05/12/05",
+       "Value to high do not exceed 99"},
+      {{"01", "02", "03", "04", "05", "06"}, "", "05/12/05", "Please type the day of the draw"},
+      {{"01", "02", "03", "04", "05", "06"},
+       "Sa",
+       "",
+       "Please type the draw date into the date field."},
+      {{"01", "02", "03", "04", "05", "06"},
+       "Sa",
+       "05/12/200",
+       "Date field is incorrect please enter in this format 00/00/00"},
+  };
+  for (const Refusal& refusal : refusals) {
+    TestDesk desk;
+    StartQuietly(desk);
+    const std::string before = desk.DatabaseBytes();
+    TypeDraw(desk, refusal.balls, "07", refusal.day, refusal.date);
+    desk.User().Click(desk.Main().cmdSave);
+    EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>{refusal.text});
+    EXPECT_EQ(desk.DatabaseBytes(), before);
+  }
+}
+
+TEST(Entry, LeavesTheFocusInTheBoxAtFault) {
+  TestDesk desk;
+  StartQuietly(desk);
+  TypeDraw(desk, {"01", "02", "", "04", "05", "06"}, "07", "Sa", "05/12/05");
+  desk.User().Click(desk.Main().cmdSave);
+  EXPECT_EQ(desk.Desk().Desktop().Focused(), &desk.Main().TxtBall03);
+}
+
+TEST(Entry, TheSecondDigitMovesOn) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.User().Click(desk.Main().cmdAdd);
+  desk.User().Type(desk.Main().TxtBall01, "0312x9 7{Enter}41");
+  EXPECT_EQ(desk.Main().TxtBall01.Text(), "03");
+  EXPECT_EQ(desk.Main().TxtBall02.Text(), "12");
+  EXPECT_EQ(desk.Main().TxtBall03.Text(), "9");
+  EXPECT_EQ(desk.Main().TxtBall04.Text(), "7");
+  EXPECT_EQ(desk.Main().TxtBall05.Text(), "41");
+  EXPECT_EQ(desk.Desk().Desktop().Focused(), &desk.Main().TxtBall06);
+  EXPECT_EQ(desk.Main().TxtBall06.BackColor(), 0xFFFFC0u);
+  EXPECT_EQ(desk.Main().TxtBall05.BackColor(), 0xFFFFFFu);
+}
+
+TEST(Entry, TheDayBoxFillsItselfFromTheDate) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.User().Click(desk.Main().cmdAdd);
+  desk.Main().txtDate.SetText("05/12/2005");
+  desk.User().Focus(desk.Main().TxtBall07);
+  EXPECT_EQ(desk.Main().txtDate.Text(), "12/05/05");
+  EXPECT_EQ(desk.Main().TxtBall07.Text(), "Mon");
+}
+
+TEST(Entry, ResetLeavesIt) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.User().Click(desk.Main().cmdAdd);
+  desk.User().Click(desk.Main().CmdReset);
+  EXPECT_TRUE(desk.Main().cmdAdd.Enabled());
+  EXPECT_TRUE(desk.Main().CmdScan.Enabled());
+  EXPECT_FALSE(desk.Main().CmdReset.Enabled());
+  EXPECT_FALSE(desk.Main().cmdSave.Enabled());
+  EXPECT_EQ(desk.Main().lblProductName1(4).Caption(), "Quorbit Number Desk");
+  EXPECT_EQ(desk.Main().ListView1.SelectedIndex(), 1);
+}
+
+TEST(Entry, EditsTheDrawChosenInTheLineList) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.User().Pick(desk.Main().List7, 4);
+  desk.User().Click(desk.Main().cmdedit);
+  EXPECT_EQ(desk.Main().cmdedit.Caption(), "Save");
+  desk.Main().TxtBall01.SetText("9");
+  desk.User().Click(desk.Main().cmdedit);
+  EXPECT_EQ(desk.Main().cmdedit.Caption(), "Edit");
+  auto expected = SampleDraws(40);
+  expected[4].b[0] = "09";
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+  EXPECT_EQ(desk.Main().ListView1.Cell(5, 0), "09");
+  EXPECT_TRUE(desk.Main().List7.Enabled());
+  desk.Desk().Stop();
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+}
+
+TEST(Entry, AnEditThroughTheTableReplacesTheLineBefore) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.User().Pick(desk.Main().ListView1, 5);
+  desk.User().Click(desk.Main().cmdedit);
+  desk.User().Click(desk.Main().cmdedit);
+  auto expected = SampleDraws(40);
+  expected[3] = expected[4];
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+}
+
+TEST(Entry, AnEditWithAShortDateStops) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.User().Pick(desk.Main().List7, 4);
+  desk.User().Click(desk.Main().cmdedit);
+  desk.Main().txtDate.SetText("5/12");
+  desk.User().Click(desk.Main().cmdedit);
+  EXPECT_EQ(desk.TakeBoxTexts(),
+            std::vector<std::string>{"Please check the date is in this format 00/00/00"});
+  EXPECT_FALSE(desk.Main().List7.Enabled());
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(40)));
+}
+
+TEST(Entry, PastesALineOfResults) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.User().Click(desk.Main().cmdAdd);
+  desk.User().Paste(desk.Main().TxtBall01, "Mon 05/12/2005, 3, 12, 19, 27, 35, 41, 8");
+  EXPECT_EQ(desk.Main().TxtBall01.Text(), "3");
+  EXPECT_EQ(desk.Main().TxtBallBB.Text(), "8");
+  EXPECT_EQ(desk.Main().txtDate.Text(), "12/05/05");
+  EXPECT_EQ(desk.Main().TxtBall07.Text(), "Mon");
+}
+
+TEST(Entry, APasteWithoutAPlaceForTheBallsHoldsZeros) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.User().Click(desk.Main().cmdAdd);
+  desk.User().Paste(desk.Main().TxtBall01, "1 2 3 05/12/2005 4");
+  EXPECT_EQ(desk.Main().TxtBall01.Text(), "00");
+  EXPECT_EQ(desk.Main().TxtBallBB.Text(), "00");
+  EXPECT_EQ(desk.Main().txtDate.Text(), "12/05/05");
+}
+
+TEST(Entry, AFailedAppendLeavesTheFileAndTellsTheUser) {
+  TestDesk desk;
+  desk.settings.Save("velmonte", "390", "Tips", "False");
+  FailingDisk disk(desk.host_files);
+  desk.files = &disk;
+  desk.Start();
+  TypeDraw(desk, {"01", "02", "03", "04", "05", "06"}, "07", "Sa", "05/12/05");
+  disk.FailFromNow(1, base::Error(base::kDiskFull));
+  desk.User().Click(desk.Main().cmdSave);
+  const auto texts = desk.TakeBoxTexts();
+  ASSERT_EQ(texts.size(), 1u);
+  EXPECT_NE(texts[0].find("illigal operation at SaveNewRecord"), std::string::npos);
+  EXPECT_NE(texts[0].find("Error Number [61] "), std::string::npos);
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(40)));
+  EXPECT_EQ(desk.Main().ListView1.RowCount(), 40);
+}
+
+TEST(Entry, KnowsTheDaysInTheirSpellings) {
+  for (const char* text : {"Mo", "mo", "MO", "Monday"}) EXPECT_EQ(store::TwoLetterDay(text), "Mo");
+  EXPECT_EQ(store::TwoLetterDay("mO"), "mO");
+  EXPECT_EQ(store::TwoLetterDay("Feiertag"), "Feiertag");
+  EXPECT_EQ(store::ShortDay("Monday"), "Mon");
+  EXPECT_EQ(store::ShortDay("w"), "Wed");
+  EXPECT_EQ(store::ShortDay("t"), "t");
+  EXPECT_EQ(store::ShortDay("TU"), "TU");
+}
+
+}  // namespace
+}  // namespace test

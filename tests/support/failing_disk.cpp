@@ -1,0 +1,61 @@
+#include "support/failing_disk.h"
+
+namespace test {
+namespace {
+
+class FailingFile : public base::File {
+ public:
+  FailingFile(FailingDisk& disk, std::unique_ptr<base::File> file)
+      : disk_(disk), file_(std::move(file)) {}
+  std::int64_t Length() override { return file_->Length(); }
+  std::string ReadAt(std::int64_t offset, std::size_t count) override {
+    disk_.Count();
+    return file_->ReadAt(offset, count);
+  }
+  void Append(std::string_view bytes) override {
+    disk_.Count();
+    file_->Append(bytes);
+  }
+
+ private:
+  FailingDisk& disk_;
+  std::unique_ptr<base::File> file_;
+};
+
+}  // namespace
+
+void FailingDisk::FailFromNow(int n, base::Error error) {
+  left_ = n;
+  error_ = std::move(error);
+  has_failed_ = false;
+}
+
+void FailingDisk::Count() {
+  if (!error_ || --left_ > 0) return;
+  const base::Error error = *error_;
+  error_.reset();
+  has_failed_ = true;
+  throw error;
+}
+
+std::unique_ptr<base::File> FailingDisk::Open(const std::string& path) {
+  Count();
+  return std::make_unique<FailingFile>(*this, disk_.Open(path));
+}
+
+std::string FailingDisk::ReadAll(const std::string& path) {
+  Count();
+  return disk_.ReadAll(path);
+}
+
+void FailingDisk::Replace(const std::string& path, std::string_view bytes) {
+  Count();
+  disk_.Replace(path, bytes);
+}
+
+void FailingDisk::Remove(const std::string& path) {
+  Count();
+  disk_.Remove(path);
+}
+
+}  // namespace test

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/language/error.h"
+#include "base/ports/file_system.h"
+
+namespace test {
+
+// A disk whose nth operation fails, once. Every opening, reading, writing and removing is one.
+class FailingDisk : public base::FileSystem {
+ public:
+  explicit FailingDisk(base::FileSystem& disk) : disk_(disk) {}
+
+  // The nth operation from now (1 is the next one) throws this error.
+  void FailFromNow(int n, base::Error error);
+  bool HasFailed() const { return has_failed_; }
+
+  bool FileExists(const std::string& path) override { return disk_.FileExists(path); }
+  bool FolderExists(const std::string& path) override { return disk_.FolderExists(path); }
+  std::unique_ptr<base::File> Open(const std::string& path) override;
+  std::string ReadAll(const std::string& path) override;
+  void Replace(const std::string& path, std::string_view bytes) override;
+  void Remove(const std::string& path) override;
+  std::vector<std::string> List(const std::string& folder, const std::string& ending) override {
+    return disk_.List(folder, ending);
+  }
+
+  // Counts one operation; throws if it is the one that fails.
+  void Count();
+
+ private:
+  base::FileSystem& disk_;
+  std::optional<base::Error> error_;
+  int left_ = 0;
+  bool has_failed_ = false;
+};
+
+}  // namespace test
