@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <sstream>
 
 #include "script/program.h"
@@ -285,20 +284,6 @@ TEST(Interpreter, ASecondStartIsASecondProcessOnTheSameSettings) {
 TEST(Interpreter, TextsCrossTheCodePage) {
   const Played played = Play("setting a b c \"\xC2\xA3 \\u20ac \xE6\x9C\x88\"\n");
   EXPECT_EQ(played.out, "\"\xC2\xA3 \xE2\x82\xAC ?\"\n");
-}
-
-TEST(Program, NamesTheScriptFileInMessages) {
-  const auto file = std::filesystem::temp_directory_path() / "no such script.desk";
-  const Played played = Play("", {file.string()});
-  EXPECT_EQ(played.status, 2);
-  EXPECT_EQ(played.err, "number-desk-script: " + file.string() + " cannot be read\n");
-}
-
-TEST(Program, RefusesWrongOptions) {
-  EXPECT_EQ(Play("", {"--moon"}).status, 2);
-  EXPECT_EQ(Play("", {"--folder", "/does/not/exist"}).status, 2);
-  EXPECT_EQ(Play("", {"--help"}).status, 0);
-  EXPECT_EQ(Play("", {"--version"}).out, "number-desk-script 3.9.0\n");
 }
 
 }  // namespace

@@ -31,8 +31,8 @@ bool IsSeparator(char c) { return c == '\\' || c == '/'; }
 }  // namespace
 
 std::string ResolveHostPath(std::string_view desk_path) {
-  std::string path;
-  if (!desk_path.empty() && IsSeparator(desk_path.front())) path = "/";
+  const bool from_root = !desk_path.empty() && IsSeparator(desk_path.front());
+  std::string path(from_root ? 1 : 0, '/');
   std::size_t start = 0;
   while (start < desk_path.size()) {
     std::size_t end = start;

@@ -1,0 +1,118 @@
+#include "script/functions.h"
+
+#include <charconv>
+#include <functional>
+
+#include "base/host/profile.h"
+#include "base/language/dates.h"
+#include "base/language/error.h"
+#include "base/language/numbers.h"
+#include "base/language/text.h"
+#include "base/language/text_order.h"
+#include "script/wrong_script.h"
+
+namespace script {
+namespace {
+
+// The arguments behind the function's name, counted from 0.
+class Call {
+ public:
+  Call(Stage& stage, const Arguments& words) : stage_(stage), words_(words) {}
+
+  Stage& On() const { return stage_; }
+  std::string Text(int n) const { return words_.Text(n + 1); }
+  // The number that an unquoted word is; a text counts as the language converts it.
+  double Number(int n) const {
+    const std::optional<double> number = Literal(n);
+    return number ? *number : base::ToDouble(Text(n));
+  }
+  // Converts a number as a number and a text as a text.
+  template <typename Convert>
+  Json Whole(Convert convert) const {
+    const std::optional<double> number = Literal(0);
+    return Json(static_cast<int>(number ? convert(*number) : convert(std::string_view(Text(0)))));
+  }
+  base::DateOrder Dates() const { return stage_.ports.region.order; }
+
+ private:
+  std::optional<double> Literal(int n) const {
+    const Word& word = words_.At(n + 1);
+    double number = 0;
+    const char* const end = word.text.data() + word.text.size();
+    const auto [stop, error] = std::from_chars(word.text.data(), end, number);
+    if (word.quoted || stop != end || error != std::errc()) return std::nullopt;
+    return number;
+  }
+
+  Stage& stage_;
+  const Arguments& words_;
+};
+
+struct Function {
+  const char* name;
+  int arguments;
+  std::function<Json(const Call&)> run;
+};
+
+std::string DrawLineAt(const Call& call) {
+  store::Session& session = call.On().Desk().Session();
+  store::DrawRecord draw;
+  session.file.Read(session.PositionOf(call.Number(0)), draw);
+  return store::DrawLine(draw);
+}
+
+// A path that names no file of the host's root lies below the program folder.
+std::string ProfileText(const Call& call) {
+  std::string path = call.Text(2);
+  const bool rooted = !path.empty() && (path.front() == '/' || path.front() == '\\');
+  base::FileSystem& files = call.On().Files();
+  if (!rooted || !files.FileExists(path)) path = call.On().PathOf(path);
+  return base::ReadIniString(files, call.Text(0), call.Text(1), path);
+}
+
+const std::vector<Function>& Functions() {
+  static const std::vector<Function> functions{
+      {"PadBall", 1, [](const Call& c) { return TextJson(store::PadBall(c.Text(0))); }},
+      {"DrawLine", 1, [](const Call& c) { return TextJson(DrawLineAt(c)); }},
+      {"ReadIniString", 3, [](const Call& c) { return TextJson(ProfileText(c)); }},
+      {"WeekDayName", 1,
+       [](const Call& c) { return TextJson(base::DateText(c.Text(0), "dddd", c.Dates())); }},
+      {"DoubleText", 1, [](const Call& c) { return TextJson(base::DoubleText(c.Number(0))); }},
+      {"SingleText", 1,
+       [](const Call& c) { return TextJson(base::SingleText(static_cast<float>(c.Number(0)))); }},
+      {"ToInt16", 1,
+       [](const Call& c) { return c.Whole([](auto value) { return base::ToInt16(value); }); }},
+      {"ToInt32", 1,
+       [](const Call& c) { return c.Whole([](auto value) { return base::ToInt32(value); }); }},
+      {"ToByte", 1,
+       [](const Call& c) { return c.Whole([](auto value) { return base::ToByte(value); }); }},
+      {"NumericValue", 1, [](const Call& c) { return NumberJson(base::NumericValue(c.Text(0))); }},
+      {"IsDate", 1, [](const Call& c) { return Json(base::IsDate(c.Text(0), c.Dates())); }},
+      {"DateText", 2,
+       [](const Call& c) { return TextJson(base::DateText(c.Text(0), c.Text(1), c.Dates())); }},
+      {"CompareText", 2,
+       [](const Call& c) { return Json(base::CompareText(c.Text(0), c.Text(1))); }},
+  };
+  return functions;
+}
+
+const Function& FunctionNamed(const std::string& name) {
+  for (const Function& function : Functions()) {
+    if (base::EqualNoCase(function.name, name)) return function;
+  }
+  throw WrongScript("there is no function " + name);
+}
+
+}  // namespace
+
+Json CallFunction(Stage& stage, const Arguments& words) {
+  const Function& function = FunctionNamed(words.At(0).text);
+  words.Demand(function.arguments + 1);
+  try {
+    return function.run(Call(stage, words));
+  } catch (const base::Error& error) {
+    return {{"error", error.Number()}, {"description", TextJson(error.Description())}};
+  }
+}
+
+}  // namespace script
