@@ -32,9 +32,9 @@ void Graph::DoBarColors() {
   DoBarBackColur(place_.session.bar_colours.back);
   if (count < kFewestForColours) return;
   for (int rank = 1; rank <= count; ++rank) {
-    SetBand(rank, rank < third  ? base::Band::kCold
-                  : rank <= top ? base::Band::kWarm
-                                : base::Band::kHot);
+    SetBand(BarOfRank(rank), rank < third  ? base::Band::kCold
+                             : rank <= top ? base::Band::kWarm
+                                           : base::Band::kHot);
   }
 }
 
@@ -44,14 +44,16 @@ void Graph::DoBarColors2() {
   DoBarBackColur(place_.session.bar_colours.back);
   if (count < kFewestForColours) return;
   for (int rank = 1; rank <= count; ++rank) {
-    SetBand(rank, rank < half ? base::Band::kCold : base::Band::kHot);
+    SetBand(BarOfRank(rank), rank < half ? base::Band::kCold : base::Band::kHot);
   }
 }
 
-void Graph::SetBand(int rank, base::Band band) {
+base::Bar& Graph::BarOfRank(int rank) {
+  return place_.window.ProgressBar1(BallOfRow(place_.window.LstMainWindowSorted.Row(rank - 1)));
+}
+
+void Graph::SetBand(base::Bar& bar, base::Band band) {
   const store::BarColours& colours = place_.session.bar_colours;
-  base::Bar& bar =
-      place_.window.ProgressBar1(BallOfRow(place_.window.LstMainWindowSorted.Row(rank - 1)));
   bar.SetFillColor(band == base::Band::kCold   ? colours.cold
                    : band == base::Band::kWarm ? colours.warm
                                                : colours.hot);

@@ -18,6 +18,8 @@ class Graph {
   void DoBarColors();
   void DoBarColors2();
   void DoBarBackColur(base::Colour colour);
+  // The band and its colour.
+  void SetBand(base::Bar& bar, base::Band band);
   void MakeTheGraphVisible();
   void MakeTheGraphInVisible();
 
@@ -27,7 +29,7 @@ class Graph {
   void Label8_Click();
 
  private:
-  void SetBand(int rank, base::Band band);
+  base::Bar& BarOfRank(int rank);
 
   store::Workplace place_;
 };

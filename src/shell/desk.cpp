@@ -1,6 +1,7 @@
 #include "shell/desk.h"
 
 #include "base/language/text.h"
+#include "scan/ball_selector.h"
 #include "shell/dialogs.h"
 #include "shell/error_reporter.h"
 #include "shell/frame.h"
@@ -36,6 +37,13 @@ struct AboutWindow : FrmAbout {
   About procedures;
 };
 
+struct BallSelectorWindow : scan::FrmDropDown {
+  explicit BallSelectorWindow(store::Session& session) : procedures(*this, session) {
+    procedures.Wire();
+  }
+  scan::BallSelector procedures;
+};
+
 struct FrameWindow : FrmMain {
   FrameWindow(base::Desktop& desktop, store::Session& session, Frame::Windows& windows,
               store::ErrorReporter& reporter)
@@ -65,7 +73,8 @@ class Desk::Parts : public Frame::Windows, public MainWindowSubjects::FrameSide 
           return std::make_shared<MainWindowSubjects>(session, desktop, reporter, *this);
         }),
         options([this] { return std::make_shared<OptionsWindow>(desktop, session); }),
-        about([this] { return std::make_shared<AboutWindow>(desktop, Version{}); }) {
+        about([this] { return std::make_shared<AboutWindow>(desktop, Version{}); }),
+        selector([this] { return std::make_shared<BallSelectorWindow>(session); }) {
     session.program_folder = std::move(program_folder);
     desktop.on_closed = [this](base::Form& form) { Release(form); };
   }
@@ -79,11 +88,13 @@ class Desk::Parts : public Frame::Windows, public MainWindowSubjects::FrameSide 
   base::WindowSlot<MainWindowSubjects> main;
   base::WindowSlot<OptionsWindow> options;
   base::WindowSlot<AboutWindow> about;
+  base::WindowSlot<BallSelectorWindow> selector;
 
  private:
   void Release(base::Form& form) {
     splash.Release(form, desktop) || frame.Release(form, desktop) || main.Release(form, desktop) ||
-        options.Release(form, desktop) || about.Release(form, desktop);
+        options.Release(form, desktop) || about.Release(form, desktop) ||
+        selector.Release(form, desktop);
   }
 
   // What the frame asks for.
@@ -98,7 +109,20 @@ class Desk::Parts : public Frame::Windows, public MainWindowSubjects::FrameSide 
     if (MainWindowSubjects* window = main.Peek()) window->Browsing().FillFromListView();
   }
 
+  void ShowBallSelector() override { desktop.Show(selector.Get()); }
+  void StandardDeviation() override {
+    if (MainWindowSubjects* window = main.Peek()) window->GraphOptions().StandardDeviation();
+  }
+  bool GraphStylesFilled() override {
+    return main.Peek() && main.Peek()->LstGraphStyles.ListCount() > 0;
+  }
+  void ChooseStyle(scan::GraphOptions::Style style) override {
+    main.Get().GraphOptions().ChooseStyle(style);
+  }
+
   // What the main window asks of the frame.
+  void SaveMenus() override { frame.Get().procedures.SaveMenus(); }
+  void PopUpGraphMenu() override { desktop.View().PopUp(frame.Get().MnuGraph); }
   void DoMenus() override { frame.Get().procedures.DoMenus(); }
   void MarkMainWindow(bool in_use) override { frame.Get().procedures.MarkMainWindow(in_use); }
   void ShowStatus(const std::string& text) override { frame.Get().lblStatus.SetCaption(text); }

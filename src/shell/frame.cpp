@@ -12,6 +12,7 @@ namespace {
 
 using store::kDeskApplication;
 using store::kTitleApplication;
+using Style = scan::GraphOptions::Style;
 
 constexpr std::string_view kPlaceSection = "Settings";
 constexpr base::Colour kMarked = 0xE0E0E0;
@@ -39,10 +40,16 @@ void Frame::Wire() {
       trapped("mnuHelpAbout_Click", [this] { windows_.ShowAbout(); });
   window_.mnuHelpContents.on.click = [this] { ShowHelp(base::HelpPage::kContents); };
   window_.mnuHelpSearchForHelpOn.on.click = [this] { ShowHelp(base::HelpPage::kSearch); };
-  for (base::MenuItem* item :
-       {&window_.MnuHgight, &window_.MnuBlue, &window_.MnuRWC, &window_.MnuHC}) {
-    item->on.click = trapped("MnuGraph_Click", [this, item] { Toggle(*item); });
-  }
+  window_.MnuHgight.on.click = trapped("MnuHgight_Click", [this] { MnuHgight_Click(); });
+  window_.MnuBlue.on.click = trapped(
+      "MnuBlue_Click", [this] { StyleMenu_Click(window_.MnuBlue, Style::kBlue); });
+  window_.MnuRWC.on.click = trapped(
+      "MnuRWC_Click", [this] { StyleMenu_Click(window_.MnuRWC, Style::kColdWarmHot); });
+  window_.MnuHC.on.click =
+      trapped("MnuHC_Click", [this] { StyleMenu_Click(window_.MnuHC, Style::kColdHot); });
+  window_.MnuStdDev.on.click = [this] { windows_.StandardDeviation(); };
+  window_.MnuNumberSelector.on.click =
+      trapped("MnuNumberSelector_Click", [this] { windows_.ShowBallSelector(); });
 }
 
 void Frame::MDIForm_Load() {
@@ -130,10 +137,19 @@ void Frame::CopyTicks() {
   session_.mnu_hc_on = window_.MnuHC.Checked();
 }
 
-void Frame::Toggle(base::MenuItem& item) {
-  item.SetChecked(!item.Checked());
+void Frame::MnuHgight_Click() {
+  window_.MnuHgight.SetChecked(!window_.MnuHgight.Checked());
   SaveMenus();
   windows_.FillFromListView();
+}
+
+void Frame::StyleMenu_Click(base::MenuItem& item, Style style) {
+  if (!windows_.GraphStylesFilled()) return;
+  const bool ticked = !item.Checked();
+  for (base::MenuItem* other : {&window_.MnuBlue, &window_.MnuRWC, &window_.MnuHC}) {
+    other->SetChecked(other == &item && ticked);
+  }
+  windows_.ChooseStyle(style);
 }
 
 void Frame::MarkMainWindow(bool in_use) {

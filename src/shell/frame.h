@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/controls/desktop.h"
+#include "scan/graph_options.h"
 #include "shell/frame_window.h"
 #include "store/session.h"
 #include "store/workplace.h"
@@ -22,6 +23,11 @@ class Frame {
     // Shows the selected draw again, after the way to show it has changed. Without a main window
     // nothing happens.
     virtual void FillFromListView() = 0;
+    virtual void ShowBallSelector() = 0;
+    virtual void StandardDeviation() = 0;
+    // True once the graph's choices have been filled, which the first use of them does.
+    virtual bool GraphStylesFilled() = 0;
+    virtual void ChooseStyle(scan::GraphOptions::Style style) = 0;
   };
 
   Frame(FrmMain& window, base::Desktop& desktop, store::Session& session, Windows& windows,
@@ -48,7 +54,8 @@ class Frame {
   void RestorePlacement();
   void StorePlacement();
   void CopyTicks();
-  void Toggle(base::MenuItem& item);
+  void MnuHgight_Click();
+  void StyleMenu_Click(base::MenuItem& item, scan::GraphOptions::Style style);
   void ShowHelp(base::HelpPage page);
 
   FrmMain& window_;

@@ -17,7 +17,9 @@ MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& d
       working_copy_(place_, browsing_, entry_),
       loading_(place_, browsing_, loading_side_),
       main_scan_(place_, browsing_, entry_, counts_, graph_, frequencies_),
-      scan_filter_(place_, browsing_, entry_, frequencies_) {
+      scan_filter_(place_, browsing_, entry_, frequencies_),
+      graph_options_(place_, browsing_, graph_, frame),
+      winner_scan_(place_, browsing_) {
   on.load = [this] {
     store::Trapped(place_.reporter, "Form_Load", [this] { Form_Load(); });
   };
@@ -31,6 +33,8 @@ MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& d
   frequencies_.Wire();
   main_scan_.Wire();
   scan_filter_.Wire();
+  graph_options_.Wire();
+  winner_scan_.Wire();
 }
 
 void MainWindowSubjects::Form_Load() {

@@ -3,8 +3,10 @@
 #include "scan/ball_counts.h"
 #include "scan/frequencies.h"
 #include "scan/graph.h"
+#include "scan/graph_options.h"
 #include "scan/main_scan.h"
 #include "scan/scan_filter.h"
+#include "scan/winner_scan.h"
 #include "store/browsing.h"
 #include "store/entry.h"
 #include "store/entry_boxes.h"
@@ -21,9 +23,8 @@ class MainWindowSubjects : public store::MainWindow,
                            private store::Entry::Neighbours {
  public:
   // `frame` is what loading asks of the frame; everything must outlive the window.
-  class FrameSide {
+  class FrameSide : public scan::GraphOptions::Neighbours {
    public:
-    virtual ~FrameSide() = default;
     virtual void DoMenus() = 0;
     virtual void MarkMainWindow(bool in_use) = 0;
     virtual void ShowStatus(const std::string& text) = 0;
@@ -34,6 +35,7 @@ class MainWindowSubjects : public store::MainWindow,
                      store::ErrorReporter& reporter, FrameSide& frame);
 
   store::Browsing& Browsing() { return browsing_; }
+  scan::GraphOptions& GraphOptions() { return graph_options_; }
   store::WorkingCopy& WorkingCopy() { return working_copy_; }
 
   void Form_Load();
@@ -75,6 +77,8 @@ class MainWindowSubjects : public store::MainWindow,
   store::Loading loading_;
   scan::MainScan main_scan_;
   scan::ScanFilter scan_filter_;
+  scan::GraphOptions graph_options_;
+  scan::WinnerScan winner_scan_;
 };
 
 }  // namespace shell

@@ -9,6 +9,8 @@ namespace {
 
 constexpr int kBarPitch = 192;
 constexpr int kBarWidth = 132;
+constexpr int kNarrowestBar = 80;
+constexpr int kWidestBar = 400;
 constexpr int kStripWidth = 19260;
 constexpr int kStripHeight = 2000;
 
@@ -61,6 +63,9 @@ void MainWindow::SetCaptions() {
       {Command18, "Remove"},
       {Label18, "Accept"},
       {CmdCancelSave, "Cancel"},
+      {LblExtraBall, "XB"},
+      {Labscanwinners, "Scan"},
+      {LblApplyHint, "Double click an option to apply"},
       {Option6, "Scan Entirety"},
       {OpScanRange, "Scan Selected Range"},
       {LblStartAt, "Start scan at draw number"},
@@ -80,6 +85,11 @@ void MainWindow::SetFirstValues() {
   ListView1.SetHeaders({"B1", "B2", "B3", "B4", "B5", "B6", "BB", "Date", "Day"});
   LstMainWindowSorted.SetSorted();
   List1.SetSorted();
+
+  txtpermcheck.SetText(
+      "Type numbers in the boxes below and click scan, this will tell \r\n"
+      "you the amount of times you would have won from the draw \r\n"
+      "range selected.\r\n");
 
   Option5.SetGroup("country");
   Option3.SetGroup("country");
@@ -114,6 +124,8 @@ void MainWindow::SetFirstValues() {
 }
 
 void MainWindow::PlaceBars() {
+  HScroll1.SetRange(kNarrowestBar, kWidestBar);
+  HScroll1.SetValue(kBarWidth);
   OuterPict.Move(120, 1100, 10600, kStripHeight);
   InnerPict.Move(0, 0, kStripWidth, kStripHeight);
   ProgressBar1.Each([](base::Bar& bar) {

@@ -56,6 +56,7 @@ class MainWindow : public base::Form {
   base::Group<base::Label> Label2{*this, "Label2", 0, kLastBar};
   base::Group<base::Label> Label11{*this, "Label11", 0, kLastBar};  // a ball's average
   base::Scroll HBar{*this, "HBar"};
+  base::Scroll HScroll1{*this, "HScroll1"};  // the width of the bars
   base::Button Command1{*this, "Command1"};  // takes the focus off the strip's scroll bar
 
   // Details of the balls on show: text, count, average.
@@ -81,7 +82,15 @@ class MainWindow : public base::Form {
   base::Button CmdCancelSave{*this, "CmdCancelSave"};
 
   base::Panel Picture3{*this, "Picture3"};  // combinations
+  base::Group<base::TextBox> Txtb1{*this, "Txtb1", 0, 6};
+  base::Label LblExtraBall{*this, "LblExtraBall"};
+  base::Label Labscanwinners{*this, "Labscanwinners"};
+  base::TextBox txtpermcheck{*this, "txtpermcheck"};
+
   base::Panel Picture5{*this, "Picture5"};  // graph options
+  base::ListBox LstGraphStyles{*this, "LstGraphStyles"};
+  base::ListBox LstMainWinSettings{*this, "LstMainWinSettings"};
+  base::Label LblApplyHint{*this, "LblApplyHint"};
 
   base::Panel PicScanFilter{*this, "PicScanFilter"};  // scan filter
   base::Option Option6{*this, "Option6"};
@@ -104,7 +113,6 @@ class MainWindow : public base::Form {
   base::ListBox List1{*this, "List1"};                              // due rows, sorted
   base::ListBox LstMainWindowSorted{*this, "LstMainWindowSorted"};  // ranking rows, sorted
   base::ListBox List3{*this, "List3"};                              // ranking rows by ball
-  base::ListBox LstGraphStyles{*this, "LstGraphStyles"};
 
   // The box of ball k: 0..5 are B1..B6, 6 is BB.
   base::TextBox& BallBox(int k);

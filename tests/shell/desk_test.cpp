@@ -126,16 +126,16 @@ TEST(Stop, DuringAScanEndsItAndUnloads) {
   EXPECT_TRUE(desk.boxes.shown.empty());
 }
 
-TEST(Frame, TogglesAMenuItemAndStoresAllFour) {
+TEST(Frame, HighlightTogglesAndStoresAllFour) {
   TestDesk desk;
   desk.Start();
-  desk.User().Choose(desk.Frame().MnuBlue);
-  EXPECT_TRUE(desk.Frame().MnuBlue.Checked());
-  EXPECT_TRUE(desk.Session().mnu_blue_on);
-  EXPECT_EQ(desk.settings.Get("velmonte", "390", "MnuBlue"), "True");
+  desk.User().Choose(desk.Frame().MnuHgight);
+  EXPECT_TRUE(desk.Frame().MnuHgight.Checked());
+  EXPECT_TRUE(desk.Session().mnu_hgight_on);
+  EXPECT_EQ(desk.settings.Get("velmonte", "390", "MnuHgight"), "True");
   EXPECT_EQ(desk.settings.Get("velmonte", "390", "MnuHC"), "False");
-  desk.User().Choose(desk.Frame().MnuBlue);
-  EXPECT_FALSE(desk.Session().mnu_blue_on);
+  desk.User().Choose(desk.Frame().MnuHgight);
+  EXPECT_FALSE(desk.Session().mnu_hgight_on);
 }
 
 TEST(Frame, DisablesWhatLeadsToWindowsThatDoNotExist) {
