@@ -71,6 +71,7 @@ void GraphOptions::ChooseStyle(Style style) {
   base::ListBox& styles = place_.window.LstGraphStyles;
   if (styles.ListCount() == 0) return;
   styles.SetListIndex(static_cast<int>(style));
+  place_.session.graph_style_chosen = true;
   neighbours_.SaveMenus();
   graph_.SetBarColours(style == Style::kBlue ? kBlueStyle : kBandStyle);
   if (style == Style::kColdHot) {

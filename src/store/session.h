@@ -58,6 +58,9 @@ struct Session {
   std::array<std::array<std::uint8_t, kPositionPlaces>, kBalls> position_marks{};
   std::string report_buffer;
   BarColours bar_colours;
+  // Set by the user's first choice of a style. Until then a screen tells the bands by its own
+  // colours, although the first style paints them alike.
+  bool graph_style_chosen = false;
 
   // Preferences, read at the start.
   std::string version_section;

@@ -71,7 +71,7 @@ TEST(Interpreter, TellsWhereTheScriptIsWrong) {
       {"start\nget MainWindow.txtDate.Colour",
        "-:2: there is no property MainWindow.txtDate.Colour\n"},
       {"start\nclick MainWindow.cmdSave", "-:2: MainWindow.cmdSave is disabled\n"},
-      {"start\nmenu MnuStdDev", "-:2: frmMain.MnuStdDev is disabled\n"},
+      {"start\nmenu MnuStatsWin", "-:2: frmMain.MnuStatsWin is disabled\n"},
       {"start\nmenu Label1", "-:2: frmMain.Label1 is no menu item\n"},
       {"start\npick MainWindow.Combo7 \"Doomsday\"", "-:2: no row reads: Doomsday\n"},
       {"start\npick MainWindow.Combo7 8", "-:2: MainWindow.Combo7 has no such item\n"},
@@ -268,14 +268,14 @@ TEST(Interpreter, SettingsAreStoredAndAsked) {
 TEST(Interpreter, ASecondStartIsASecondProcessOnTheSameSettings) {
   const Played played = Play(
       "start\n"
-      "menu frmMain.MnuRWC\n"
+      "menu frmMain.MnuHgight\n"
       "stop\n"
       "windows\n"
       "global MainWindowLoaded\n"
       "start splash\n"
       "windows\n"
       "click frmSplash.CmdContinue\n"
-      "get frmMain.MnuRWC.Checked\n");
+      "get frmMain.MnuHgight.Checked\n");
   EXPECT_EQ(played.err, "");
   EXPECT_EQ(played.out,
             "[]\nfalse\n[{\"name\":\"frmSplash\",\"caption\":\"Quorbit Number Desk\"}]\ntrue\n");

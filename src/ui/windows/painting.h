@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QColor>
+#include <QRectF>
+#include <QString>
+
+#include "ui/theme/theme.h"
+
+class QPainter;
+
+// What several painted widgets draw alike.
+
+namespace ui {
+
+// The colour that lies `part` (0 to 1) of the way from one to the other.
+QColor Between(const QColor& one, const QColor& other, double part);
+
+// The colour of a role as text on a ground: moved towards the text colour until it can be read.
+QColor ReadableOn(Role ground, Role role);
+
+// A ball filled with the colour of a band, its number in the middle.
+void PaintBall(QPainter& painter, const QRectF& place, const QString& number, Role band);
+
+}  // namespace ui

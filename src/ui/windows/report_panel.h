@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QFrame>
+#include <QString>
+#include <QStringList>
+#include <array>
+
+#include "store/main_window.h"
+#include "ui/bind/binder.h"
+#include "ui/theme/theme.h"
+
+namespace ui {
+
+// One sentence of the ranking, such as "The seven most common to date are  = 38 31": its words, and
+// the balls behind the equals sign in the colour of their band. A text without balls stands as it
+// is.
+class RankingLine : public QWidget {
+ public:
+  RankingLine(Role band, QWidget* parent);
+  void SetSentence(const QString& sentence);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+  bool hasHeightForWidth() const override { return true; }
+  int heightForWidth(int width) const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  int WordsWidth() const;
+  int BallsWidth() const;
+  bool FitsOneLine(int width) const;
+
+  const Role band_;
+  QString words_;
+  QStringList balls_;
+};
+
+// The most and least common balls, and the report of the scan.
+class ReportPanel : public QFrame {
+ public:
+  ReportPanel(Binder& binder, store::MainWindow& window, QWidget* parent);
+
+ private:
+  void TakeRanking();
+
+  store::MainWindow& window_;
+  std::array<RankingLine*, 2> ranking_;
+};
+
+}  // namespace ui
