@@ -84,7 +84,8 @@ void FillSortedList(benchmark::State& state) {
     base::ListBox list{*this, "list"};
   } window;
   std::vector<std::string> rows;
-  for (int i = 0; i < kDraws; ++i) rows.push_back(store::DrawLine(Draws()[static_cast<std::size_t>(i)]));
+  for (int i = 0; i < kDraws; ++i)
+    rows.push_back(store::DrawLine(Draws()[static_cast<std::size_t>(i)]));
   for (auto _ : state) {
     window.list.Clear();
     for (const std::string& row : rows) window.list.AddItem(row);

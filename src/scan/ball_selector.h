@@ -40,8 +40,7 @@ class FrmDropDown : public base::Form {
 // Replays the draw file on the board.
 class BallSelector {
  public:
-  BallSelector(FrmDropDown& window, store::Session& session)
-      : window_(window), session_(session) {}
+  BallSelector(FrmDropDown& window, store::Session& session) : window_(window), session_(session) {}
 
   void Wire();
   void CmdScan_Click();

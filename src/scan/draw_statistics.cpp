@@ -32,8 +32,8 @@ DrawStatistics Statistics(const std::vector<float>& counts) {
   for (int k = 0; k < result.range; ++k) {
     const float count = counts[static_cast<std::size_t>(k)];
     result.total += count;
-    squares = ThroughText(squares + std::fabs(ThroughText(
-                                        std::pow(base::RoundHalfEven(count, 2), 2))));
+    squares =
+        ThroughText(squares + std::fabs(ThroughText(std::pow(base::RoundHalfEven(count, 2), 2))));
     result.highest = std::max<double>(result.highest, count);
     result.lowest = std::min<double>(result.lowest, count);
   }

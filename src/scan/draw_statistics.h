@@ -15,7 +15,8 @@ struct DrawStatistics {
   double lowest = 0;  // 100 if every count is above it
 };
 
-// `counts` holds the count of ball k at k - 1. Error 6 when nothing was counted, 11 when one ball was.
+// `counts` holds the count of ball k at k - 1. Error 6 when nothing was counted, 11 when one ball
+// was.
 DrawStatistics Statistics(const std::vector<float>& counts);
 
 // The lines of the statistics box.

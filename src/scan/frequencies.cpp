@@ -115,7 +115,8 @@ void Frequencies::DueToAppearMainWindow(bool show_text) {
     if (ball <= kLastBallInDueList) window.List1.AddItem(DueRow(draws, count, ball));
   }
 
-  session.report_buffer = window.TxtResultsBox2.Caption() + "Balls from most common to least common\r\n";
+  session.report_buffer =
+      window.TxtResultsBox2.Caption() + "Balls from most common to least common\r\n";
   for (int row = 0; row < window.List1.ListCount(); ++row) {
     window.List1.SetListIndex(row);
     session.report_buffer += DueSentence(window.List1.Text());

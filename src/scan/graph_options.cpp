@@ -285,9 +285,9 @@ void GraphOptions::StandardDeviation() {
   for (int ball = 1; ball <= store::kLastBar; ++ball) {
     counts.push_back(window.ProgressBar1(ball).Value());
   }
-  place_.Ask({.text = StatisticsText(Statistics(counts),
-                                     base::NumericValue(window.txtRecNum.Text())),
-              .title = "Draw Statistics"});
+  place_.Ask(
+      {.text = StatisticsText(Statistics(counts), base::NumericValue(window.txtRecNum.Text())),
+       .title = "Draw Statistics"});
 }
 
 }  // namespace scan

@@ -19,7 +19,8 @@ class LineMatches {
   // Compares a draw (B1..B6, BB). A field of 0 keeps the value that an earlier draw had there.
   void Compare(const std::array<std::uint8_t, store::kBalls>& balls);
 
-  // Draws with exactly this many hits, 1 to 6; those of them that hit with the bonus ball; the rest.
+  // Draws with exactly this many hits, 1 to 6; those of them that hit with the bonus ball; the
+  // rest.
   int All(int hits) const { return all_.at(static_cast<std::size_t>(hits)); }
   int WithBonus(int hits) const { return with_bonus_.at(static_cast<std::size_t>(hits)); }
   int Main(int hits) const;

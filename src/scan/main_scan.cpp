@@ -23,8 +23,9 @@ const base::MessageBox kNewScan{.text = "This will start a new scan, continue.",
                                 .title = "Last Record",
                                 .buttons = base::BoxButtons::kYesNo};
 const base::MessageBox kRulesChanged{
-    .text = "QND has detected a range change in the draw results, this will effect the results, do "
-            "you wish to zero the current statistics at this point to correct the results",
+    .text =
+        "QND has detected a range change in the draw results, this will effect the results, do "
+        "you wish to zero the current statistics at this point to correct the results",
     .title = "Draw rules have changed",
     .buttons = base::BoxButtons::kYesNo};
 
@@ -123,8 +124,8 @@ MainScan::Pass MainScan::OnePass(int& first_scan_highest) {
   CountPositions();
   ShowHiddenBoxes();
   if (window.CmdScan.Caption() == kIdle) return Pass::kFinish;
-  const bool last = session.current_draw_number - 1 ==
-                    static_cast<float>(window.ListView1.RowCount());
+  const bool last =
+      session.current_draw_number - 1 == static_cast<float>(window.ListView1.RowCount());
   return last ? Pass::kFinish : Pass::kNext;
 }
 
@@ -137,8 +138,8 @@ void MainScan::ReadNextDraw() {
 
 void MainScan::CountDraw() {
   const store::MainWindow& window = place_.window;
-  if (!window.OpScanRange.Value() || place_.session.current_draw_number >=
-                                         base::NumericValue(window.TxtStartDrawAt(0).Text())) {
+  if (!window.OpScanRange.Value() ||
+      place_.session.current_draw_number >= base::NumericValue(window.TxtStartDrawAt(0).Text())) {
     FillTag();
   }
 }

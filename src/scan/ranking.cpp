@@ -49,7 +49,8 @@ float CountOfRow(std::string_view row) {
 
 std::string MostCommonText(const std::vector<std::string>& sorted_rows) {
   const int count = static_cast<int>(sorted_rows.size());
-  const bool nothing_counted = base::NumericValue(MostCommonBall(RowAt(sorted_rows, count - 1))) == 0;
+  const bool nothing_counted =
+      base::NumericValue(MostCommonBall(RowAt(sorted_rows, count - 1))) == 0;
 
   std::string text = "The seven most common to date are ";
   text += " =";

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "scan/frequencies.h"
 #include "store/browsing.h"
 #include "store/entry.h"
-#include "scan/frequencies.h"
 #include "store/workplace.h"
 
 namespace scan {

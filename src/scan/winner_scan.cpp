@@ -37,8 +37,7 @@ void WinnerScan::Labscanwinners_Click() {
   SortNumbers();
   std::array<std::uint8_t, LineMatches::kNumbers> numbers{};
   for (int k = 0; k < LineMatches::kNumbers; ++k) {
-    numbers[static_cast<std::size_t>(k)] =
-        base::ToByte(base::NumericValue(window.Txtb1(k).Text()));
+    numbers[static_cast<std::size_t>(k)] = base::ToByte(base::NumericValue(window.Txtb1(k).Text()));
   }
   base::ToByte(base::NumericValue(window.Txtb1(LineMatches::kNumbers).Text()));
 

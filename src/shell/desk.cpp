@@ -66,9 +66,7 @@ class Desk::Parts : public Frame::Windows, public MainWindowSubjects::FrameSide 
           return std::make_shared<SplashWindow>(desktop, session, Version{},
                                                 [this] { desktop.Show(frame.Get()); });
         }),
-        frame([this] {
-          return std::make_shared<FrameWindow>(desktop, session, *this, reporter);
-        }),
+        frame([this] { return std::make_shared<FrameWindow>(desktop, session, *this, reporter); }),
         main([this] {
           return std::make_shared<MainWindowSubjects>(session, desktop, reporter, *this);
         }),

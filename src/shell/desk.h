@@ -23,8 +23,8 @@ class Desk {
 
   // Opens the splash window, which goes on to the frame by itself if the settings say so.
   void Start();
-  // The user closes the frame: placement is stored, all windows are unloaded from the last opened to
-  // the first. Does nothing when the frame is closed already.
+  // The user closes the frame: placement is stored, all windows are unloaded from the last opened
+  // to the first. Does nothing when the frame is closed already.
   void Stop();
   // True once the frame has been closed (or the splash before the frame came up).
   bool Ended() const;

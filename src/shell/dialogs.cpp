@@ -70,8 +70,8 @@ void Options::TellSplashChange() {
   if (splash == splash_before_) return;
   splash_before_ = splash;
   if (splash == 0) {
-    desktop_.World().boxes.Ask({.text = "Splash screen will not show on start up",
-                                .title = "Splash screen disabled"});
+    desktop_.World().boxes.Ask(
+        {.text = "Splash screen will not show on start up", .title = "Splash screen disabled"});
   } else {
     desktop_.World().boxes.Ask(
         {.text = "Splash will now show on start up", .title = "Splash screen enabled"});

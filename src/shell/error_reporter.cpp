@@ -47,9 +47,8 @@ void DeskErrorReporter::Report(std::string_view procedure, const base::Error& er
                            .description = error.Description(),
                            .last_system_error = LastSystemError(error)};
   const base::Answer answer =
-      ports_.boxes.Ask({.text = ErrorDetails(report) +
-                                "\r\n"
-                                "Do you wish to report the error to us\r\n",
+      ports_.boxes.Ask({.text = ErrorDetails(report) + "\r\n"
+                                                       "Do you wish to report the error to us\r\n",
                         .buttons = base::BoxButtons::kYesNo});
   if (answer != base::Answer::kYes) return;
   try {

@@ -34,17 +34,15 @@ void Frame::Wire() {
   const auto show_main = trapped("MnuMainWindow_Click", [this] { windows_.ShowMainWindow(); });
   window_.MnuMainWindow.on.click = show_main;
   window_.Command17.on.click = show_main;
-  window_.MnuOptions.on.click =
-      trapped("MnuOptions_Click", [this] { windows_.ShowOptions(); });
-  window_.mnuHelpAbout.on.click =
-      trapped("mnuHelpAbout_Click", [this] { windows_.ShowAbout(); });
+  window_.MnuOptions.on.click = trapped("MnuOptions_Click", [this] { windows_.ShowOptions(); });
+  window_.mnuHelpAbout.on.click = trapped("mnuHelpAbout_Click", [this] { windows_.ShowAbout(); });
   window_.mnuHelpContents.on.click = [this] { ShowHelp(base::HelpPage::kContents); };
   window_.mnuHelpSearchForHelpOn.on.click = [this] { ShowHelp(base::HelpPage::kSearch); };
   window_.MnuHgight.on.click = trapped("MnuHgight_Click", [this] { MnuHgight_Click(); });
-  window_.MnuBlue.on.click = trapped(
-      "MnuBlue_Click", [this] { StyleMenu_Click(window_.MnuBlue, Style::kBlue); });
-  window_.MnuRWC.on.click = trapped(
-      "MnuRWC_Click", [this] { StyleMenu_Click(window_.MnuRWC, Style::kColdWarmHot); });
+  window_.MnuBlue.on.click =
+      trapped("MnuBlue_Click", [this] { StyleMenu_Click(window_.MnuBlue, Style::kBlue); });
+  window_.MnuRWC.on.click =
+      trapped("MnuRWC_Click", [this] { StyleMenu_Click(window_.MnuRWC, Style::kColdWarmHot); });
   window_.MnuHC.on.click =
       trapped("MnuHC_Click", [this] { StyleMenu_Click(window_.MnuHC, Style::kColdHot); });
   window_.MnuStdDev.on.click = [this] { windows_.StandardDeviation(); };
@@ -64,8 +62,8 @@ void Frame::MDIForm_Load() {
 
 void Frame::RestorePlacement() {
   const auto read = [this](std::string_view key, double default_value) {
-    const double value = ReadNumber(desktop_.World().settings, kTitleApplication, kPlaceSection,
-                                    key, default_value);
+    const double value =
+        ReadNumber(desktop_.World().settings, kTitleApplication, kPlaceSection, key, default_value);
     try {
       return base::ToInt32(value);
     } catch (const base::Error&) {

@@ -53,8 +53,8 @@ void ReadRegion(base::Settings& settings, store::Session& session) {
 void ReadPreferences(base::Settings& settings, store::Session& session) {
   ReadRegion(settings, session);
   session.tips_on = ReadBoolean(settings, kDeskApplication, session.version_section, "Tips", true);
-  session.prompt_on_range_change = ReadBoolean(
-      settings, kDeskApplication, session.version_section, "QND.PromptOnRangeChange", true);
+  session.prompt_on_range_change = ReadBoolean(settings, kDeskApplication, session.version_section,
+                                               "QND.PromptOnRangeChange", true);
 }
 
 }  // namespace shell

@@ -89,8 +89,8 @@ void SettingsStore::Read() {
   }
 }
 
-SettingsStore::Line* SettingsStore::FindLine(std::string_view application,
-                                             std::string_view section, std::string_view key) {
+SettingsStore::Line* SettingsStore::FindLine(std::string_view application, std::string_view section,
+                                             std::string_view key) {
   for (auto line = lines_.rbegin(); line != lines_.rend(); ++line) {
     if (line->entry && base::EqualNoCase(line->entry->key, key) &&
         base::EqualNoCase(line->entry->section, section) &&

@@ -21,8 +21,8 @@ void Splash::Form_Load() {
   window_.lblVersion.SetCaption("Version " + VersionText(version_));
   session_.version_section = VersionSection(version_);
   ReadPreferences(settings, session_);
-  const double splash = ReadNumber(settings, store::kDeskApplication, session_.version_section,
-                                   kSplashKey, 0);
+  const double splash =
+      ReadNumber(settings, store::kDeskApplication, session_.version_section, kSplashKey, 0);
   if (splash == kSkip) CmdContinue_Click();
 }
 

@@ -14,8 +14,9 @@ constexpr int kDateCell = 7;
 constexpr int kDayCell = 8;
 
 const base::MessageBox kEmptyBuffers{
-    .text = "An error has occured loading the draw results in to QND's buffers\r\n"
-            "QND will now attempt to reload the buffers",
+    .text =
+        "An error has occured loading the draw results in to QND's buffers\r\n"
+        "QND will now attempt to reload the buffers",
     .title = "Buffers are empty",
     .icon = base::BoxIcon::kCritical};
 
@@ -24,9 +25,8 @@ const base::MessageBox kEmptyBuffers{
 void Browsing::Wire() {
   MainWindow& window = place_.window;
   const auto trapped = [this](const char* name, void (Browsing::*procedure)()) {
-    return [this, name, procedure] {
-      Trapped(place_.reporter, name, [&] { (this->*procedure)(); });
-    };
+    return
+        [this, name, procedure] { Trapped(place_.reporter, name, [&] { (this->*procedure)(); }); };
   };
   window.cmdFirst.on.click = trapped("cmdFirst_Click", &Browsing::cmdFirst_Click);
   window.cmdPrev.on.click = trapped("cmdPrev_Click", &Browsing::cmdPrev_Click);
@@ -197,8 +197,7 @@ void Browsing::ShowBoxes() {
 void Browsing::FillTextMainWindow() {
   Session& session = place_.session;
   for (int k = 0; k < kBalls; ++k) {
-    session.current_balls[static_cast<std::size_t>(k)] =
-        base::ToByte(session.current_draw.Ball(k));
+    session.current_balls[static_cast<std::size_t>(k)] = base::ToByte(session.current_draw.Ball(k));
   }
   session.shown_day = session.current_draw.day;
   session.shown_date = session.current_draw.date;

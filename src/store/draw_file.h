@@ -10,8 +10,8 @@
 
 namespace store {
 
-// File number 1: the open database. Byte positions count from 1. Every operation on a closed file is
-// error 52.
+// File number 1: the open database. Byte positions count from 1. Every operation on a closed file
+// is error 52.
 class DrawFile {
  public:
   explicit DrawFile(base::FileSystem& files) : files_(files) {}

@@ -31,8 +31,8 @@ std::string PadBall(std::string_view text);
 // The fixed-column text of a record: B1..B6 BB Date Spare Day, balls padded, joined by blanks.
 std::string DrawLine(const DrawRecord& record);
 
-// Takes every field but `spare` from the fixed columns of a draw line; columns beyond the end of the
-// line give empty text.
+// Takes every field but `spare` from the fixed columns of a draw line; columns beyond the end of
+// the line give empty text.
 void ParseDrawLine(std::string_view line, DrawRecord& record);
 
 // The bytes of a record: spare as 16 bits little-endian, then nine texts, each behind its 16-bit

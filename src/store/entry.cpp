@@ -76,9 +76,8 @@ std::string ShortDay(std::string_view text) {
 void Entry::Wire() {
   MainWindow& window = place_.window;
   const auto trapped = [this](const char* name, void (Entry::*procedure)()) {
-    return [this, name, procedure] {
-      Trapped(place_.reporter, name, [&] { (this->*procedure)(); });
-    };
+    return
+        [this, name, procedure] { Trapped(place_.reporter, name, [&] { (this->*procedure)(); }); };
   };
   window.cmdAdd.on.click = trapped("cmdAdd_Click", &Entry::cmdAdd_Click);
   window.cmdSave.on.click = trapped("cmdSave_Click", &Entry::cmdSave_Click);
@@ -140,7 +139,9 @@ void Entry::CmdReset_Click() {
   QNDLabels();
 }
 
-void Entry::QNDLabels() { place_.window.lblProductName1(kNotice).SetCaption("Quorbit Number Desk"); }
+void Entry::QNDLabels() {
+  place_.window.lblProductName1(kNotice).SetCaption("Quorbit Number Desk");
+}
 
 // --- Saving
 
@@ -155,8 +156,8 @@ void Entry::cmdSave_Click() {
   if (!BoxesAreValid()) return;
   SortBoxes();
   if (window.txtDate.Text().size() > kDateLength) {
-    place_.Ask({.text = "Date field is incorrect please enter in this format 00/00/00",
-                .title = "Note!"});
+    place_.Ask(
+        {.text = "Date field is incorrect please enter in this format 00/00/00", .title = "Note!"});
     return;
   }
   if (SaveNewRecord()) ShowSavedDraw();
@@ -197,8 +198,8 @@ bool Entry::CheckSaveBoxes(base::TextBox& box, const std::string& name) {
   } else if (base::NumericValue(box.Text()) <= 99) {
     return true;
   } else {
-    complaint = "Value to high do not exceed " +
-                base::IntegerText(place_.window.Label1.Count() - 1);
+    complaint =
+        "Value to high do not exceed " + base::IntegerText(place_.window.Label1.Count() - 1);
   }
   place_.Ask({.text = complaint});
   place_.desktop.SetFocus(box);
@@ -219,8 +220,7 @@ void Entry::SortBoxes() {
       }
     }
     DoTextBox();
-    counter.SetCaption(base::IntegerText(
-        base::ToInt16(base::NumericValue(counter.Caption()) + 1)));
+    counter.SetCaption(base::IntegerText(base::ToInt16(base::NumericValue(counter.Caption()) + 1)));
   }
 }
 
@@ -343,8 +343,7 @@ void Entry::TxtBall01_MouseUp() {
 
   const base::DateOrder order = place_.World().region.Dates();
   const PastedLine line = TakeApart(window.TxtBall01.Text(), order);
-  window.txtDate.SetText(
-      base::DateText(line.date_part, place_.session.date_format_text, order));
+  window.txtDate.SetText(base::DateText(line.date_part, place_.session.date_format_text, order));
   window.TxtBall07.SetText(base::DateText(line.date_part, "DDDD", order));
   if (!line.balls[0]) {
     for (int k = 0; k < kBalls; ++k) window.BallBox(k).SetText("00");

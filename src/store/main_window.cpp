@@ -102,8 +102,8 @@ void MainWindow::SetFirstValues() {
   TxtStartDrawAt(1).SetText("0");
   TxtStartDrawAt(1).SetToolTipText("Set to 0 to scan to the end of database");
 
-  Combo7.SetItems({"All Days", "Saturday", "Sunday", "Monday", "Tuesday", "Wednesday", "Thursday",
-                   "Friday"});
+  Combo7.SetItems(
+      {"All Days", "Saturday", "Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday"});
   Combo7.SetListIndex(0);
   Combo7.SetToolTipText(
       "When you click scan QND will only include information for the day selected here");
@@ -115,10 +115,9 @@ void MainWindow::SetFirstValues() {
   cmdSave.SetEnabled(false);
   cmdClear.SetEnabled(false);
   CmdReset.SetEnabled(false);
-  for (base::Control* store : {static_cast<base::Control*>(&LstMainWindowSorted),
-                               static_cast<base::Control*>(&List1),
-                               static_cast<base::Control*>(&List3),
-                               static_cast<base::Control*>(&Command1)}) {
+  for (base::Control* store :
+       {static_cast<base::Control*>(&LstMainWindowSorted), static_cast<base::Control*>(&List1),
+        static_cast<base::Control*>(&List3), static_cast<base::Control*>(&Command1)}) {
     store->SetVisible(false);
   }
 }

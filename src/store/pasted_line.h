@@ -10,8 +10,8 @@
 
 namespace store {
 
-// The three cleaners of text from outside, in the order in which they run. All turn the text to lower
-// case, shorten runs of blanks and trim blanks at both ends.
+// The three cleaners of text from outside, in the order in which they run. All turn the text to
+// lower case, shorten runs of blanks and trim blanks at both ends.
 
 // Removes the letters a to z.
 std::string StripLetters(std::string_view text);

@@ -17,14 +17,12 @@ constexpr std::size_t kDateLength = 8;
 void RowEditor::Wire() {
   MainWindow& window = place_.window;
   const auto trapped = [this](const char* name, void (RowEditor::*procedure)()) {
-    return [this, name, procedure] {
-      Trapped(place_.reporter, name, [&] { (this->*procedure)(); });
-    };
+    return
+        [this, name, procedure] { Trapped(place_.reporter, name, [&] { (this->*procedure)(); }); };
   };
   window.ListView1.on.double_click = trapped("ListView1_DblClick", &RowEditor::ListView1_DblClick);
   window.Label18.on.click = trapped("Label18_Click", &RowEditor::Label18_Click);
-  window.CmdCancelSave.on.click =
-      trapped("CmdCancelSave_Click", &RowEditor::CmdCancelSave_Click);
+  window.CmdCancelSave.on.click = trapped("CmdCancelSave_Click", &RowEditor::CmdCancelSave_Click);
   window.Command18.on.click = trapped("Command18_Click", &RowEditor::Command18_Click);
 }
 

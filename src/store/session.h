@@ -30,7 +30,7 @@ struct Session {
   // The open database.
   std::string program_folder;
   DrawFile file;
-  DrawRecord current_draw;             // the one buffer of every read and write of the file
+  DrawRecord current_draw;                // the one buffer of every read and write of the file
   std::vector<std::int32_t> draw_pos{0};  // position of record n at n; element 0 holds nothing
   std::int16_t draw_count = 0;
   std::int32_t file_pos = 0;

@@ -8,9 +8,9 @@
 
 namespace store {
 
-// Replacing the database file: after an edit from the draw lines by way of Temp.dat, at the close of
-// the window from the draw table. Both put a complete file in the old one's place in one step, so
-// that at no moment a draw is on no disk.
+// Replacing the database file: after an edit from the draw lines by way of Temp.dat, at the close
+// of the window from the draw table. Both put a complete file in the old one's place in one step,
+// so that at no moment a draw is on no disk.
 class WorkingCopy {
  public:
   WorkingCopy(Workplace place, Browsing& browsing, Entry& entry)

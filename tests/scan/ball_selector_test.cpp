@@ -13,8 +13,8 @@ scan::FrmDropDown& OpenBoard(TestDesk& desk) {
 }
 
 TEST(BallSelector, LeavesTheLastDrawOut) {
-  TestDesk desk({Draw({1, 2, 3, 4, 5, 6}), Draw({7, 8, 9, 10, 11, 12}),
-                 Draw({13, 14, 15, 16, 17, 18})});
+  TestDesk desk(
+      {Draw({1, 2, 3, 4, 5, 6}), Draw({7, 8, 9, 10, 11, 12}), Draw({13, 14, 15, 16, 17, 18})});
   desk.Start();
   scan::FrmDropDown& board = OpenBoard(desk);
   desk.User().Click(board.CmdScan);

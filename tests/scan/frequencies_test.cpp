@@ -19,8 +19,7 @@ TEST(Frequencies, CutBothListsAtABallNeverDrawn) {
   TestDesk desk(std::vector<store::DrawRecord>(40, Draw({1, 2, 3, 5, 6, 7, 8})));
   OpenQuietly(desk);
   desk.User().Click(desk.Main().CmdScan);
-  EXPECT_EQ(desk.Main().List3.Rows(),
-            (std::vector<std::string>{"040 1", "040 2", "040 3"}));
+  EXPECT_EQ(desk.Main().List3.Rows(), (std::vector<std::string>{"040 1", "040 2", "040 3"}));
 }
 
 TEST(Frequencies, RankTiesByTheTextOfTheBall) {

@@ -78,10 +78,10 @@ TEST_F(ScannedGraph, SortsLowToHighAndBack) {
 TEST_F(ScannedGraph, ColoursASortedGraphByItsRows) {
   desk_.User().Pick(desk_.Main().LstGraphStyles, 1);
   Apply("Low to high");
-  EXPECT_EQ(desk_.Main().ProgressBar1(4).RankBand(), base::Band::kCold);   // row 3 of 12
-  EXPECT_EQ(desk_.Main().ProgressBar1(5).RankBand(), base::Band::kWarm);   // row 4
-  EXPECT_EQ(desk_.Main().ProgressBar1(9).RankBand(), base::Band::kWarm);   // row 8
-  EXPECT_EQ(desk_.Main().ProgressBar1(10).RankBand(), base::Band::kHot);   // row 9
+  EXPECT_EQ(desk_.Main().ProgressBar1(4).RankBand(), base::Band::kCold);  // row 3 of 12
+  EXPECT_EQ(desk_.Main().ProgressBar1(5).RankBand(), base::Band::kWarm);  // row 4
+  EXPECT_EQ(desk_.Main().ProgressBar1(9).RankBand(), base::Band::kWarm);  // row 8
+  EXPECT_EQ(desk_.Main().ProgressBar1(10).RankBand(), base::Band::kHot);  // row 9
   EXPECT_EQ(desk_.Main().ProgressBar1(10).FillColor(), 0x0000FFu);
 }
 

@@ -157,7 +157,7 @@ TEST(MainScan, SuspendsAtTheEndOfARange) {
   EXPECT_EQ(window.CmdScan.Caption(), "Stop");
   EXPECT_FALSE(window.cmdFirst.Enabled());
   EXPECT_EQ(window.TxtResultsBox.Text(), "");
-  EXPECT_EQ(window.ProgressBar1(1).Value(), 6);  // draws 4 to 9
+  EXPECT_EQ(window.ProgressBar1(1).Value(), 6);      // draws 4 to 9
   EXPECT_EQ(desk.Session().position_hits[0][1], 8);  // every pass but the last
   desk.User().Click(window.CmdScan);
   EXPECT_EQ(window.CmdScan.Caption(), "Scan");

@@ -41,8 +41,7 @@ TEST(DueList, FillsTheFigureToFiveCharacters) {
 TEST(DueList, MultipliesFourDigitsByTen) { EXPECT_EQ(DueRow(1234, 1, 12), "12340 12"); }
 
 TEST(DueList, SpeaksOfAverageWithOneDecimal) {
-  EXPECT_EQ(DueSentence("08.33 07"),
-            "Ball  07 is next due to appear in about 8.3 draws time.\r\n");
+  EXPECT_EQ(DueSentence("08.33 07"), "Ball  07 is next due to appear in about 8.3 draws time.\r\n");
   EXPECT_EQ(DueSentence("12.50 12"),
             "Ball  12 is next due to appear in about 12.5 draws time.\r\n");
   EXPECT_EQ(DueSentence("07.00 45"), "Ball  45 is next due to appear in about 7 draws time.\r\n");

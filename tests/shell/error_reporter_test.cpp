@@ -28,10 +28,10 @@ struct Reporting {
   LoggedMail mail;
   MemorySettings settings;
   void Report(base::Mail& with_mail) {
-    base::Ports ports{boxes,         quiet.pump,   quiet.clock,
-                      quiet.beeper,  quiet.shell,  with_mail,
-                      quiet.printer, quiet.help,   quiet.system_information,
-                      quiet.region,  quiet.files,  settings};
+    base::Ports ports{boxes,         quiet.pump,  quiet.clock,
+                      quiet.beeper,  quiet.shell, with_mail,
+                      quiet.printer, quiet.help,  quiet.system_information,
+                      quiet.region,  quiet.files, settings};
     shell::DeskErrorReporter(ports, {}).Report("SaveNewRecord", base::Error(base::kSubscript));
   }
 };

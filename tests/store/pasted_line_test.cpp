@@ -7,9 +7,7 @@ namespace {
 
 using base::DateOrder;
 
-std::string Clean(std::string_view text) {
-  return StripControls(StripSymbols(StripLetters(text)));
-}
+std::string Clean(std::string_view text) { return StripControls(StripSymbols(StripLetters(text))); }
 
 std::vector<std::string> Balls(const PastedLine& line) {
   std::vector<std::string> balls;
@@ -23,11 +21,17 @@ TEST(StripLetters, RemovesEveryLetterOfTheKeyboard) {
 }
 
 TEST(StripSymbols, TurnsMarksIntoBlanksButKeepsTheSolidus) {
-  EXPECT_EQ(StripSymbols("[1]-{2},\xA3" "3=4 05/12/05"), "1 2 3 4 05/12/05");
+  EXPECT_EQ(StripSymbols("[1]-{2},\xA3"
+                         "3=4 05/12/05"),
+            "1 2 3 4 05/12/05");
 }
 
 TEST(StripSymbols, KnowsTheFieldMarks) {
-  EXPECT_EQ(StripSymbols("1\x03 \x02" "2\x02" "3\x03" "4"), "1 2 3 4");
+  EXPECT_EQ(StripSymbols("1\x03 \x02"
+                         "2\x02"
+                         "3\x03"
+                         "4"),
+            "1 2 3 4");
 }
 
 TEST(StripControls, DoublesTheReturnOfALineBreak) {

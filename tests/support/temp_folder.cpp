@@ -6,7 +6,8 @@
 
 namespace test {
 
-TempFolder::TempFolder() : path_((std::filesystem::temp_directory_path() / "desk-XXXXXX").string()) {
+TempFolder::TempFolder()
+    : path_((std::filesystem::temp_directory_path() / "desk-XXXXXX").string()) {
   mkdtemp(path_.data());
 }
 

@@ -13,8 +13,8 @@ namespace test {
 
 std::optional<std::string> MemorySettings::Find(std::string_view application,
                                                 std::string_view section, std::string_view key) {
-  const auto found = texts_.find(base::Lower(std::string(application) + "|" + std::string(section) +
-                                             "|" + std::string(key)));
+  const auto found = texts_.find(
+      base::Lower(std::string(application) + "|" + std::string(section) + "|" + std::string(key)));
   if (found == texts_.end()) return std::nullopt;
   return found->second;
 }
@@ -102,10 +102,10 @@ void TestDesk::Start() {
 }
 
 void TestDesk::Restart() {
-  base::Ports ports{boxes,       pump,          quiet_.clock,  quiet_.beeper,
-                    quiet_.shell, mail,         printer,       help,
-                    quiet_.system_information,  region,        *files,
-                    settings};
+  base::Ports ports{boxes,         pump,         quiet_.clock,
+                    quiet_.beeper, quiet_.shell, mail,
+                    printer,       help,         quiet_.system_information,
+                    region,        *files,       settings};
   desk_ = std::make_unique<shell::Desk>(ports, folder.string());
   desk_->Start();
 }

@@ -43,7 +43,7 @@ struct RunningDesk {
     shell::DeliverFiles(DESK_TEST_DATA, home.path().toStdString());
     QFile file(home.filePath(QStringLiteral("settings.txt")));
     if (file.open(QIODevice::WriteOnly)) {
-      file.write("Velmonte|390|SplashScreen=1\n");
+      file.write("Velmonte|390|SplashScreen=1\nVelmonte|390|Tips=False\n");
       file.write(settings.toUtf8());
     }
     file.close();
@@ -78,7 +78,10 @@ class DeskUi : public QObject {
   void MessageBoxAnswersByItsButtonsAndEscape();
   void ThemeIsKeptInTheSettings();
   void TickingAnOptionReachesItsControl();
+  void TypedKeysPassTheFilterOfTheBox();
+  void TypingOverASelectionReplacesIt();
   void ClosingTheFrameEndsTheDesk();
+  void ClosingTheFrameInsideAScanEndsTheDesk();
 
  private:
   static void CheckCaptions(RunningDesk& desk);
@@ -232,10 +235,55 @@ void DeskUi::TickingAnOptionReachesItsControl() {
   QVERIFY(!desk.app->Desk().Find("FrmOptions"));
 }
 
+void DeskUi::TypedKeysPassTheFilterOfTheBox() {
+  RunningDesk desk;
+  base::TextBox& box = desk.app->Desk().Main()->TxtBall01;
+  auto* const field = desk.Find<QLineEdit>("TxtBall01");
+  QVERIFY(field);
+  desk.Find<QAbstractButton>("cmdAdd")->click();
+  Binder::SyncAll();
+  box.SetText("");
+  Binder::SyncAll();
+  QTest::keyClicks(field, QStringLiteral("x4"));
+  QCOMPARE(box.Text(), "4");
+  QCOMPARE(field->text(), QStringLiteral("4"));
+  QTest::keyClick(field, Qt::Key_Backspace);
+  QCOMPARE(box.Text(), "");
+}
+
+void DeskUi::TypingOverASelectionReplacesIt() {
+  RunningDesk desk;
+  base::TextBox& box = desk.app->Desk().Main()->TxtBall01;
+  auto* const field = desk.Find<QLineEdit>("TxtBall01");
+  desk.Find<QAbstractButton>("cmdAdd")->click();
+  box.SetText("35");
+  Binder::SyncAll();
+  field->setFocus();
+  field->selectAll();
+  QTest::keyClicks(field, QStringLiteral("x"));
+  QCOMPARE(box.Text(), "35");
+  QTest::keyClicks(field, QStringLiteral("4"));
+  QCOMPARE(box.Text(), "4");
+  QCOMPARE(field->text(), QStringLiteral("4"));
+}
+
 void DeskUi::ClosingTheFrameEndsTheDesk() {
   RunningDesk desk;
   QVERIFY(!desk.app->Desk().Ended());
   desk.Frame().close();
+  QVERIFY(desk.app->Desk().Ended());
+  QCoreApplication::processEvents();
+}
+
+// The close arrives in a yield of the scan, which then has no window left to work on.
+void DeskUi::ClosingTheFrameInsideAScanEndsTheDesk() {
+  RunningDesk desk;
+  FrameView& frame = desk.Frame();
+  auto* const scan = desk.Find<QAbstractButton>("CmdScan");
+  QVERIFY(scan);
+  QTest::qWait(10);  // so that the next yield looks at the window system
+  QTimer::singleShot(0, &frame, [&frame] { frame.close(); });
+  scan->click();
   QVERIFY(desk.app->Desk().Ended());
   QCoreApplication::processEvents();
 }

@@ -1,5 +1,5 @@
-// Makes the delivered databases from figures: one line a draw, an ISO date, the main balls ascending,
-// then the bonus ball or balls.
+// Makes the delivered databases from figures: one line a draw, an ISO date, the main balls
+// ascending, then the bonus ball or balls.
 //
 //     make-databases FIGURES-FOLDER DATABASES-FOLDER
 
@@ -46,7 +46,8 @@ store::DrawRecord Record(const Lottery& lottery, const std::vector<std::string>&
   store::DrawRecord record;
   for (int slot = 0; slot < store::kBalls; ++slot) {
     const int column = lottery.column.at(static_cast<std::size_t>(slot));
-    record.Ball(slot) = store::PadBall(column == 0 ? "" : figures.at(static_cast<std::size_t>(column)));
+    record.Ball(slot) =
+        store::PadBall(column == 0 ? "" : figures.at(static_cast<std::size_t>(column)));
   }
   record.day = base::Left(base::FormatDate(date, "dddd"), 2);
   record.date = base::FormatDate(date, lottery.date_pattern);

@@ -13,7 +13,8 @@
 namespace base {
 
 // A list of rows, sorted or in the order of adding. Rows count from 0; index -1 is no selection.
-// A sorted list sorts when it is next read, so that filling it is cheap; every reader sees the order.
+// A sorted list sorts when it is next read, so that filling it is cheap; every reader sees the
+// order.
 class ListBox : public Control {
  public:
   explicit ListBox(Form& form, std::string name, int index = kNoIndex)

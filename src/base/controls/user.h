@@ -17,7 +17,8 @@ class ActRefused : public std::runtime_error {
 };
 
 // The acts of the person at the desk, each as one event (or the run of events that the platform
-// makes of it). Scripts and the views use the same acts. Acts on disabled controls throw ActRefused.
+// makes of it). Scripts and the views use the same acts. Acts on disabled controls throw
+// ActRefused.
 class User {
  public:
   explicit User(Desktop& desktop) : desktop_(desktop) {}

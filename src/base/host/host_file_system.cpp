@@ -59,8 +59,7 @@ int ClassicNumber(int host_error) {
   const std::string classic = Error(number).Description();
   errno = host_error;
   if (number == kFileNotFound) throw Error(number);
-  throw Error(number,
-              classic + ": " + std::strerror(host_error) + ", " + ToDeskPath(host_path));
+  throw Error(number, classic + ": " + std::strerror(host_error) + ", " + ToDeskPath(host_path));
 }
 
 // A file that is to come into being in a folder that does not exist is a path not found.

@@ -38,7 +38,8 @@ class FileSystem {
   virtual void Replace(const std::string& path, std::string_view bytes) = 0;
   // Error 53 when there is none.
   virtual void Remove(const std::string& path) = 0;
-  // Names (not paths) of the files in a folder that end in `ending`, without regard to case, sorted.
+  // Names (not paths) of the files in a folder that end in `ending`, without regard to case,
+  // sorted.
   virtual std::vector<std::string> List(const std::string& folder, const std::string& ending) = 0;
 };
 

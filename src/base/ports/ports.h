@@ -39,8 +39,8 @@ struct QuietPorts {
   Settings settings;
 
   Ports All() {
-    return Ports{boxes,   pump, clock,         beeper, shell, mail,
-                 printer, help, system_information, region, files, settings};
+    return Ports{boxes,  pump,  clock,   beeper, shell, mail, printer, help, system_information,
+                 region, files, settings};
   }
 };
 

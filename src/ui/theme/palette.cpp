@@ -21,7 +21,7 @@ constexpr std::array<RoleColours, kRoles> kColours = {{
     {0xff56647a, 0xff9aa8b8},  // dim
     {0xffd9dfe7, 0xff313a46},  // line
     {0xfff1f4f8, 0xff262e38},  // track
-    {0xff2457d6, 0xff6c98ff},  // accent
+    {0xff2457d6, 0xff729dff},  // accent
     {0xffffffff, 0xff0b1220},  // on accent
     {0xff2f6fdf, 0xff5c97ff},  // cold
     {0xff17834c, 0xff3cc486},  // warm

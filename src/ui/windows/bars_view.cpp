@@ -94,10 +94,14 @@ void BarsView::TakeColumns() {
 }
 
 void BarsView::TakeBands() {
+  bool counted = false;
   bool warm = false;
   for (int ball = 1; ball <= columns_ && !warm; ++ball) {
-    warm = window_->ProgressBar1(ball).Value() > 0 && BandOf(ball) == base::Band::kWarm;
+    if (window_->ProgressBar1(ball).Value() <= 0) continue;
+    counted = true;
+    warm = BandOf(ball) == base::Band::kWarm;
   }
+  warm = warm || !counted;
   if (bands_shown_ == ShowsBands() && has_warm_ == warm) return;
   bands_shown_ = ShowsBands();
   has_warm_ = warm;

@@ -33,7 +33,7 @@ class BarsView : public QWidget {
   QString BallValue(int ball) const;
   // True while the bands have colours of their own, so that marks tell them apart too.
   bool ShowsBands() const;
-  // True when some ball that came up is warm: a style in two halves has none.
+  // False when balls were counted and none of them is warm: a style in two halves has none.
   bool HasWarm() const { return has_warm_; }
 
  signals:
@@ -88,7 +88,7 @@ class BarsView : public QWidget {
   int columns_ = 0;
   int current_ = 0;
   bool bands_shown_ = false;
-  bool has_warm_ = false;
+  bool has_warm_ = true;
   const int normal_bar_;  // the width of a bar that fills the view, in the desk's units
   double zoom_ = 1;
   bool moving_ = false;

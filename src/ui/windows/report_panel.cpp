@@ -60,12 +60,20 @@ int RankingLine::WordsWidth() const {
          Theme::Current().Space(Spacing::kSmall);
 }
 
+void RankingLine::SetBallsLeft(int left) {
+  balls_left_ = left;
+  updateGeometry();
+  update();
+}
+
+int RankingLine::BallsLeft() const { return std::max(WordsWidth(), balls_left_); }
+
 int RankingLine::BallsWidth() const {
   return static_cast<int>(balls_.size()) * (Theme::Current().Scaled(kBallSize) + kBallGap);
 }
 
 QSize RankingLine::sizeHint() const {
-  const int width = WordsWidth() + BallsWidth();
+  const int width = BallsLeft() + BallsWidth();
   return {width, heightForWidth(width)};
 }
 
@@ -74,7 +82,7 @@ QSize RankingLine::minimumSizeHint() const {
 }
 
 bool RankingLine::FitsOneLine(int width) const {
-  return balls_.isEmpty() || width >= WordsWidth() + BallsWidth();
+  return balls_.isEmpty() || width >= BallsLeft() + BallsWidth();
 }
 
 int RankingLine::heightForWidth(int width) const {
@@ -93,7 +101,7 @@ void RankingLine::paintEvent(QPaintEvent*) {
   painter.drawText(QRect(0, 0, width(), in_one_line ? height() : height() - ball),
                    Qt::AlignLeft | Qt::AlignVCenter, words_);
   painter.setFont(NumberFont());
-  int left = in_one_line ? WordsWidth() : 0;
+  int left = in_one_line ? BallsLeft() : 0;
   for (const QString& number : balls_) {
     PaintBall(painter, QRectF(left, height() - ball, ball, ball), number, band_);
     left += ball + kBallGap;
@@ -114,6 +122,7 @@ ReportPanel::ReportPanel(Binder& binder, store::MainWindow& window, QWidget* par
   column->setSpacing(theme.Space(Spacing::kSmall));
   for (RankingLine* line : ranking_) column->addWidget(line);
   binder.Watch(window.TxtResultsBox2, [this] { TakeRanking(); });
+  connect(&theme, &Theme::changed, &binder, [this] { TakeRanking(); });
 
   auto* const row = new QHBoxLayout;
   row->setSpacing(theme.Space(Spacing::kSmall));
@@ -145,6 +154,8 @@ void ReportPanel::TakeRanking() {
     const bool there = window_.TxtResultsBox2.Visible() && place < lines.size();
     ranking_[line]->SetSentence(there ? lines[place] : QString());
   }
+  const int left = std::max(ranking_[0]->WordsWidth(), ranking_[1]->WordsWidth());
+  for (RankingLine* line : ranking_) line->SetBallsLeft(left);
 }
 
 }  // namespace ui

@@ -18,6 +18,9 @@ class RankingLine : public QWidget {
  public:
   RankingLine(Role band, QWidget* parent);
   void SetSentence(const QString& sentence);
+  // The width that the words take, and the place where the balls begin if it is further right.
+  int WordsWidth() const;
+  void SetBallsLeft(int left);
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -28,13 +31,14 @@ class RankingLine : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  int WordsWidth() const;
+  int BallsLeft() const;
   int BallsWidth() const;
   bool FitsOneLine(int width) const;
 
   const Role band_;
   QString words_;
   QStringList balls_;
+  int balls_left_ = 0;
 };
 
 // The most and least common balls, and the report of the scan.

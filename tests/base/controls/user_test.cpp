@@ -31,10 +31,10 @@ class Desk : public testing::Test {
  protected:
   Desk() : desktop_(WithBoxes()), user_(desktop_) { desktop_.Show(window_); }
   Ports WithBoxes() {
-    return Ports{boxes_,         quiet_.pump, quiet_.clock,  quiet_.beeper,
-                 quiet_.shell,   quiet_.mail, quiet_.printer, quiet_.help,
-                 quiet_.system_information,   quiet_.region, quiet_.files,
-                 quiet_.settings};
+    return Ports{boxes_,         quiet_.pump,  quiet_.clock,
+                 quiet_.beeper,  quiet_.shell, quiet_.mail,
+                 quiet_.printer, quiet_.help,  quiet_.system_information,
+                 quiet_.region,  quiet_.files, quiet_.settings};
   }
   std::vector<std::string> log_;
   QuietPorts quiet_;
