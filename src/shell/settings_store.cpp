@@ -3,13 +3,13 @@
 #include <array>
 
 #include "base/language/code_page.h"
-#include "base/language/error.h"
 #include "base/language/text.h"
 
 namespace shell {
 namespace {
 
 constexpr std::size_t kParts = 4;
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";  // some text editors put it in front
 
 std::string Escaped(std::string_view text) {
   std::string result;
@@ -81,11 +81,16 @@ void SettingsStore::Read() {
   try {
     text = files_.ReadAll(path_);
   } catch (const base::Error& error) {
-    readable_ = error.Number() == base::kFileNotFound || error.Number() == base::kPathNotFound;
+    const bool missing =
+        error.Number() == base::kFileNotFound || error.Number() == base::kPathNotFound;
+    if (!missing) failure_ = error;
   }
-  for (std::string& raw : base::Split(text, "\n")) {
-    if (!raw.empty() && raw.back() == '\r') raw.pop_back();
-    if (!raw.empty()) lines_.push_back({raw, DecodeSettingsLine(raw)});
+  if (text.starts_with(kByteOrderMark)) text.erase(0, kByteOrderMark.size());
+  if (text.ends_with('\n')) text.pop_back();
+  for (const std::string& raw : base::Split(text, "\n")) {
+    std::string_view line = raw;
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    lines_.push_back({raw, DecodeSettingsLine(line)});
   }
 }
 
@@ -110,7 +115,7 @@ std::optional<std::string> SettingsStore::Find(std::string_view application,
 
 void SettingsStore::Save(std::string_view application, std::string_view section,
                          std::string_view key, std::string_view text) {
-  if (!readable_) throw base::Error(base::kPermission);
+  if (failure_) throw base::Error(*failure_);
   Line* line = FindLine(application, section, key);
   if (line && line->entry->text == text) return;
 

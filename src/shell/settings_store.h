@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/language/error.h"
 #include "base/ports/file_system.h"
 #include "base/ports/settings.h"
 
@@ -24,8 +25,10 @@ std::string EncodeSettingsLine(const SettingsEntry& entry);
 // Nothing for a line that is damaged.
 std::optional<SettingsEntry> DecodeSettingsLine(std::string_view line);
 
-// The user's preferences in one text file. Damaged lines are ignored and kept; of doubled keys the
-// last counts. A file that is there but cannot be read is never overwritten.
+// The user's preferences in one text file, which is read once, at the start. Damaged lines are
+// ignored and kept; of doubled keys the last counts. A missing file is an empty store. One that is
+// there but cannot be read is never overwritten: the store is empty, and Save throws what reading
+// threw.
 class SettingsStore : public base::Settings {
  public:
   SettingsStore(base::FileSystem& files, std::string path);
@@ -47,7 +50,7 @@ class SettingsStore : public base::Settings {
 
   base::FileSystem& files_;
   std::string path_;
-  bool readable_ = true;
+  std::optional<base::Error> failure_;  // why the file could not be read
   std::vector<Line> lines_;
 };
 

@@ -45,11 +45,32 @@ TEST_F(Store, EscapesWhatSeparates) {
 }
 
 TEST_F(Store, IgnoresAndKeepsDamagedLines) {
-  files_.Replace(Path(), "rubbish\r\nVelmonte|s|k=1\n|||\n\xFF\xFE|x\na|b|c=\\");
+  files_.Replace(Path(), "rubbish\r\n\nVelmonte|s|k=1\r\n|||\n\xFF\xFE|x\na|b|c=\\");
   SettingsStore store(files_, Path());
   EXPECT_EQ(store.Find("Velmonte", "s", "k"), "1");
   store.Save("Velmonte", "s", "k", "2");
-  EXPECT_EQ(Text(), "rubbish\nVelmonte|s|k=2\n|||\n\xFF\xFE|x\na|b|c=\\\n");
+  EXPECT_EQ(Text(), "rubbish\r\n\nVelmonte|s|k=2\n|||\n\xFF\xFE|x\na|b|c=\\\n");
+}
+
+TEST_F(Store, ReadsAFileThatATextEditorMarked) {
+  files_.Replace(Path(), "\xEF\xBB\xBFVelmonte|s|k=1\r\n");
+  EXPECT_EQ(SettingsStore(files_, Path()).Find("Velmonte", "s", "k"), "1");
+}
+
+TEST_F(Store, ABadValueCostsItsOwnTextOnly) {
+  files_.Replace(Path(), std::string("v|s|a=\xFF") + '\0' + "z\nv|s|b=1\n");
+  SettingsStore store(files_, Path());
+  EXPECT_EQ(store.Find("v", "s", "a"), std::string("?\0z", 3));
+  EXPECT_EQ(store.Find("v", "s", "b"), "1");
+}
+
+TEST_F(Store, WritesNothingForTheTextItHas) {
+  SettingsStore(files_, Path()).Save("v", "s", "k", "1");
+  FailingDisk disk(files_);
+  SettingsStore store(disk, Path());
+  disk.FailFromNow(1, base::Error(base::kDiskFull));
+  EXPECT_NO_THROW(store.Save("V", "S", "K", "1"));
+  EXPECT_FALSE(disk.HasFailed());
 }
 
 TEST_F(Store, TheLastOfDoubledKeysCounts) {
@@ -73,7 +94,12 @@ TEST_F(Store, NeverOverwritesAFileThatItCouldNotRead) {
   disk.FailFromNow(1, base::Error(base::kPathAccess));
   SettingsStore store(disk, Path());
   EXPECT_FALSE(store.Find("v", "s", "k").has_value());
-  EXPECT_THROW(store.Save("v", "s", "k", "2"), base::Error);
+  try {
+    store.Save("v", "s", "k", "2");
+    FAIL();
+  } catch (const base::Error& error) {
+    EXPECT_EQ(error.Number(), base::kPathAccess);
+  }
   EXPECT_EQ(Text(), "v|s|k=1\n");
 }
 

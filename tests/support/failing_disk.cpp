@@ -13,7 +13,12 @@ class FailingFile : public base::File {
     return file_->ReadAt(offset, count);
   }
   void Append(std::string_view bytes) override {
-    disk_.Count();
+    try {
+      disk_.Count();
+    } catch (const base::Error&) {
+      if (disk_.Tears()) file_->Append(bytes.substr(0, bytes.size() / 2));
+      throw;
+    }
     file_->Append(bytes);
   }
 
@@ -28,6 +33,12 @@ void FailingDisk::FailFromNow(int n, base::Error error) {
   left_ = n;
   error_ = std::move(error);
   has_failed_ = false;
+  tears_ = false;
+}
+
+void FailingDisk::TearFromNow(int n, base::Error error) {
+  FailFromNow(n, std::move(error));
+  tears_ = true;
 }
 
 void FailingDisk::Count() {

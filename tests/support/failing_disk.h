@@ -18,6 +18,9 @@ class FailingDisk : public base::FileSystem {
 
   // The nth operation from now (1 is the next one) throws this error.
   void FailFromNow(int n, base::Error error);
+  // The same; if that operation is an Append, half of its bytes reach the disk all the same, as
+  // when the power goes.
+  void TearFromNow(int n, base::Error error);
   bool HasFailed() const { return has_failed_; }
 
   bool FileExists(const std::string& path) override { return disk_.FileExists(path); }
@@ -32,12 +35,14 @@ class FailingDisk : public base::FileSystem {
 
   // Counts one operation; throws if it is the one that fails.
   void Count();
+  bool Tears() const { return tears_; }
 
  private:
   base::FileSystem& disk_;
   std::optional<base::Error> error_;
   int left_ = 0;
   bool has_failed_ = false;
+  bool tears_ = false;
 };
 
 }  // namespace test

@@ -2,13 +2,15 @@
 
 #include <stdlib.h>
 
+#include <cerrno>
 #include <filesystem>
+#include <system_error>
 
 namespace test {
 
 TempFolder::TempFolder()
     : path_((std::filesystem::temp_directory_path() / "desk-XXXXXX").string()) {
-  mkdtemp(path_.data());
+  if (!mkdtemp(path_.data())) throw std::system_error(errno, std::generic_category(), path_);
 }
 
 TempFolder::~TempFolder() {

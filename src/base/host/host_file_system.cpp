@@ -8,6 +8,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
+#include <limits>
+#include <optional>
 
 #include "base/host/host_paths.h"
 #include "base/language/code_page.h"
@@ -18,6 +21,10 @@ namespace base {
 namespace {
 
 constexpr mode_t kNewFileMode = 0644;
+constexpr int kMostLinks = 40;
+
+// Positions in the desk's files are 32 bits wide; no text of the desk is longer.
+constexpr off_t kLongestText = std::numeric_limits<std::int32_t>::max();
 
 // A file descriptor that closes itself.
 class Descriptor {
@@ -54,22 +61,35 @@ int ClassicNumber(int host_error) {
   }
 }
 
-[[noreturn]] void Fail(int host_error, const std::string& host_path) {
-  const int number = ClassicNumber(host_error);
-  const std::string classic = Error(number).Description();
+// errno keeps the host's number, which the error reporter tells.
+[[noreturn]] void Throw(int number, int host_error, const std::string& host_path) {
+  std::string words = Error(number).Description();
+  if (number != kFileNotFound) {
+    words += ": " + FromUtf8(std::strerror(host_error)) + ", " + ToDeskPath(host_path);
+  }
   errno = host_error;
-  if (number == kFileNotFound) throw Error(number);
-  throw Error(number, classic + ": " + std::strerror(host_error) + ", " + ToDeskPath(host_path));
+  throw Error(number, words);
 }
 
-// A file that is to come into being in a folder that does not exist is a path not found.
-[[noreturn]] void FailToCreate(int host_error, const std::string& host_path) {
-  Fail(host_error == ENOENT ? ENOTDIR : host_error, host_path);
+std::string FolderOf(const std::string& host_path) {
+  const std::size_t slash = host_path.rfind('/');
+  return slash == std::string::npos ? "." : host_path.substr(0, slash + 1);
 }
 
 bool HasMode(const std::string& host_path, mode_t mode) {
   struct stat status {};
   return stat(host_path.c_str(), &status) == 0 && (status.st_mode & S_IFMT) == mode;
+}
+
+// A missing file is one thing, a missing folder on the way to it another.
+[[noreturn]] void Fail(int host_error, const std::string& host_path) {
+  const bool no_folder = host_error == ENOENT && !HasMode(FolderOf(host_path), S_IFDIR);
+  Throw(no_folder ? kPathNotFound : ClassicNumber(host_error), host_error, host_path);
+}
+
+// A file that was to come into being cannot be what is missing.
+[[noreturn]] void FailToCreate(int host_error, const std::string& host_path) {
+  Throw(host_error == ENOENT ? kPathNotFound : ClassicNumber(host_error), host_error, host_path);
 }
 
 template <typename Call>
@@ -79,12 +99,17 @@ auto Retried(Call call) {
   return result;
 }
 
+int OpenHost(const std::string& host_path, int flags, mode_t mode = 0) {
+  return Retried([&] { return open(host_path.c_str(), flags | O_CLOEXEC, mode); });
+}
+
 // Writes everything from an offset on; false leaves the reason in errno.
 bool WriteAt(int descriptor, off_t offset, std::string_view bytes) {
   while (!bytes.empty()) {
     const ssize_t written =
         Retried([&] { return pwrite(descriptor, bytes.data(), bytes.size(), offset); });
-    if (written < 0) return false;
+    if (written == 0) errno = ENOSPC;
+    if (written <= 0) return false;
     bytes.remove_prefix(static_cast<std::size_t>(written));
     offset += written;
   }
@@ -114,6 +139,7 @@ std::string ReadFrom(int descriptor, off_t offset, std::size_t count, const std:
 off_t LengthOf(int descriptor, const std::string& path) {
   struct stat status {};
   if (fstat(descriptor, &status) != 0) Fail(errno, path);
+  if (S_ISDIR(status.st_mode)) Fail(EISDIR, path);
   return status.st_size;
 }
 
@@ -132,9 +158,7 @@ class HostFile : public File {
     if (WriteAt(file_.Number(), old_length, bytes) && Flush(file_.Number())) return;
     const int host_error = errno == EBADF ? EACCES : errno;  // opened for reading only
     // Nothing half written may stay behind the last draw.
-    if (LengthOf(file_.Number(), path_) != old_length) {
-      Retried([&] { return ftruncate(file_.Number(), old_length); });
-    }
+    if (Retried([&] { return ftruncate(file_.Number(), old_length); }) == 0) Flush(file_.Number());
     Fail(host_error, path_);
   }
 
@@ -145,22 +169,40 @@ class HostFile : public File {
 
 // The file that a chain of links ends in, so that replacing it leaves the links alone.
 std::string LinkTarget(const std::string& path) {
-  char* const target = realpath(path.c_str(), nullptr);
-  if (!target) return path;
-  std::string result(target);
-  free(target);  // NOLINT: realpath allocates with malloc
-  return result;
+  std::filesystem::path target(path);
+  for (int links = 0; links < kMostLinks; ++links) {
+    std::error_code no_link;
+    const std::filesystem::path next = std::filesystem::read_symlink(target, no_link);
+    if (no_link) break;
+    target = target.parent_path() / next;
+  }
+  return target.string();
 }
 
-mode_t ModeFor(const std::string& path) {
+// The mode of a file that is to be replaced, if there is one. Throws where the file may not be
+// replaced: a new one beside it could be renamed over a file that its owner has write-protected.
+std::optional<mode_t> ModeToReplace(const std::string& path) {
   struct stat status {};
-  return stat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : kNewFileMode;
+  if (stat(path.c_str(), &status) != 0) {
+    if (errno == ENOENT) return std::nullopt;
+    Fail(errno, path);
+  }
+  if (S_ISDIR(status.st_mode)) Fail(EISDIR, path);
+  if (!S_ISREG(status.st_mode)) Fail(EOPNOTSUPP, path);
+  if (faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) Fail(errno, path);
+  return status.st_mode & 07777;
+}
+
+// A new file. One of the same name was left by a process that was killed while it wrote.
+int OpenAnew(const std::string& path, mode_t mode) {
+  constexpr int flags = O_WRONLY | O_CREAT | O_EXCL;
+  const int descriptor = OpenHost(path, flags, mode);
+  if (descriptor >= 0 || errno != EEXIST || unlink(path.c_str()) != 0) return descriptor;
+  return OpenHost(path, flags, mode);
 }
 
 void FlushFolderOf(const std::string& path) {
-  const std::size_t slash = path.rfind('/');
-  const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
-  const Descriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  const Descriptor descriptor(OpenHost(FolderOf(path), O_RDONLY | O_DIRECTORY));
   if (descriptor.IsOpen()) Flush(descriptor.Number());
 }
 
@@ -177,31 +219,34 @@ bool HostFileSystem::FolderExists(const std::string& path) {
 std::unique_ptr<File> HostFileSystem::Open(const std::string& path) {
   const std::string host_path = ResolveHostPath(path);
   if (HasMode(host_path, S_IFDIR)) Fail(EISDIR, host_path);
-  int descriptor = open(host_path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, kNewFileMode);
-  if (descriptor < 0 && (errno == EACCES || errno == EROFS)) {
-    descriptor = open(host_path.c_str(), O_RDONLY | O_CLOEXEC);
+  int descriptor = OpenHost(host_path, O_RDWR | O_CREAT, kNewFileMode);
+  if (descriptor < 0) {
+    const int host_error = errno;
+    if (ClassicNumber(host_error) == kPermission) descriptor = OpenHost(host_path, O_RDONLY);
+    if (descriptor < 0) FailToCreate(host_error, host_path);
   }
-  if (descriptor < 0) FailToCreate(errno, host_path);
   return std::make_unique<HostFile>(descriptor, host_path);
 }
 
 std::string HostFileSystem::ReadAll(const std::string& path) {
   const std::string host_path = ResolveHostPath(path);
-  const Descriptor file(open(host_path.c_str(), O_RDONLY | O_CLOEXEC));
+  const Descriptor file(OpenHost(host_path, O_RDONLY));
   if (!file.IsOpen()) Fail(errno, host_path);
-  const auto length = static_cast<std::size_t>(LengthOf(file.Number(), host_path));
-  return ReadFrom(file.Number(), 0, length, host_path);
+  const off_t length = LengthOf(file.Number(), host_path);
+  if (length > kLongestText) throw Error(kOutOfMemory);
+  return ReadFrom(file.Number(), 0, static_cast<std::size_t>(length), host_path);
 }
 
 void HostFileSystem::Replace(const std::string& path, std::string_view bytes) {
   const std::string target = LinkTarget(ResolveHostPath(path));
-  if (HasMode(target, S_IFDIR)) Fail(EISDIR, target);
+  const std::optional<mode_t> mode = ModeToReplace(target);
   const std::string beside = target + ".new~" + std::to_string(getpid());
   int host_error = 0;
   {
-    const Descriptor file(
-        open(beside.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, ModeFor(target)));
+    const Descriptor file(OpenAnew(beside, mode.value_or(kNewFileMode)));
     if (!file.IsOpen()) FailToCreate(errno, target);
+    // What the process withholds from new files, an old one keeps. Not every disk knows modes.
+    if (mode) (void)fchmod(file.Number(), *mode);
     if (!WriteAt(file.Number(), 0, bytes) || !Flush(file.Number())) host_error = errno;
   }
   if (host_error == 0 && rename(beside.c_str(), target.c_str()) != 0) host_error = errno;

@@ -10,7 +10,9 @@
 namespace base {
 
 // The files of this machine. Errors carry the classic number; where the host has words of its own
-// (permission, full disk, path), they stand behind the classic ones.
+// (permission, full disk, path), they stand behind the classic ones, with the path. A file in a
+// folder that does not exist is error 76, a folder in place of a file 75, a file of 2 GiB or more
+// read as one text 7. A write-protected file is not replaced (70).
 class HostFileSystem : public FileSystem {
  public:
   bool FileExists(const std::string& path) override;

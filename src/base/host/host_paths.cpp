@@ -11,26 +11,46 @@
 namespace base {
 namespace {
 
+// A link counts by its own name, wherever it leads.
 bool Exists(const std::string& path) {
   struct stat status {};
-  return stat(path.c_str(), &status) == 0;
+  return lstat(path.c_str(), &status) == 0;
 }
 
-// The spelling of `name` (desk text) in a folder that spells it otherwise; empty when it has none.
+// The spelling of `name` (desk text) in a folder that spells it otherwise, the first in order of
+// bytes if there are several; empty when it has none.
 std::string OtherSpelling(const std::string& folder, std::string_view name) {
   const std::unique_ptr<DIR, int (*)(DIR*)> listing(opendir(folder.c_str()), closedir);
   if (!listing) return {};
+  std::string spelling;
   while (const dirent* entry = readdir(listing.get())) {
-    if (EqualNoCase(FromUtf8(entry->d_name), name)) return entry->d_name;
+    if (!EqualNoCase(FromUtf8(entry->d_name), name)) continue;
+    if (spelling.empty() || spelling > entry->d_name) spelling = entry->d_name;
   }
-  return {};
+  return spelling;
 }
 
 bool IsSeparator(char c) { return c == '\\' || c == '/'; }
 
+// The path in UTF-8 with "/" between its names, each spelt as it comes.
+std::string AsSpelt(std::string_view desk_path) {
+  std::string path;
+  for (const char c : ToUtf8(desk_path)) {
+    if (!IsSeparator(c)) {
+      path += c;
+    } else if (path.empty() || path.back() != '/') {
+      path += '/';
+    }
+  }
+  if (path.size() > 1 && path.back() == '/') path.pop_back();
+  return path;
+}
+
 }  // namespace
 
 std::string ResolveHostPath(std::string_view desk_path) {
+  std::string as_it_stands = AsSpelt(desk_path);
+  if (Exists(as_it_stands)) return as_it_stands;
   const bool from_root = !desk_path.empty() && IsSeparator(desk_path.front());
   std::string path(from_root ? 1 : 0, '/');
   std::size_t start = 0;

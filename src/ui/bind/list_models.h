@@ -2,7 +2,6 @@
 
 #include <QAbstractListModel>
 #include <QAbstractTableModel>
-#include <QFont>
 
 #include "base/controls/list_controls.h"
 

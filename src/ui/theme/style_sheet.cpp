@@ -83,6 +83,7 @@ QLineEdit, QComboBox { background: @track; color: @text; border: 1px solid @line
 QLineEdit:focus, QComboBox:focus { border-color: @accent; }
 QLineEdit:disabled, QComboBox:disabled { color: @faint; }
 QLineEdit[readOnly="true"] { background: @track; }
+QLineEdit[narrow="true"] { padding: 5px 2px; }
 QComboBox::drop-down { border: none; width: 26px; }
 QComboBox::down-arrow { image: url(:/icons/chevron-@mode.svg); width: 14px; height: 14px; }
 QComboBox QAbstractItemView { background: @card; color: @text; border: 1px solid @line;
@@ -91,7 +92,7 @@ QPlainTextEdit, QTextBrowser { background: @track; color: @text; border: 1px sol
   border-radius: 7px; padding: 4px; selection-background-color: @accent;
   selection-color: @onaccent; }
 QPlainTextEdit:focus, QTextBrowser:focus { border-color: @accent; }
-QListView, QTableView, QTreeView { background: @card; color: @text; border: none; outline: none;
+QListView, QTableView, QTreeView { background: @card; color: @text; border: 1px solid transparent; outline: none;
   gridline-color: @line; selection-background-color: @selection; selection-color: @text; }
 QTreeView::item, QListView::item { padding: 4px 4px; border-radius: 5px; }
 QListView::item:selected, QTreeView::item:selected, QTableView::item:selected {
@@ -103,6 +104,7 @@ QTableView:focus { border: 1px solid @accent; }
 QHeaderView { background: @card; border: none; }
 QHeaderView::section { background: @card; color: @dim; border: none; padding: 4px 6px;
   border-bottom: 1px solid @line; font-size: @px11; font-weight: 600; }
+QHeaderView[narrow="true"]::section { padding: 4px 1px; }
 QTableCornerButton::section { background: @card; border: none; }
 QTabBar { background: transparent; }
 QSplitter::handle { background: transparent; }

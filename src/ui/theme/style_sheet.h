@@ -16,7 +16,8 @@ class Theme;
 //                "caption"   small dim semibold text   "title"    the name of the program
 //   QPushButton  "accent"    the next thing to do      "flat"     no ground until hovered
 //                "tab"       a checkable tab           "joined"   one of a row without gaps
-//   QLineEdit    "ball"      a field in the shape of a ball
+//   QLineEdit    "narrow"    a field of a few digits in a row of fields
+//   QHeaderView  "narrow"    the headings of narrow columns
 QString MakeStyleSheet(const Theme& theme);
 
 }  // namespace ui

@@ -17,7 +17,7 @@ namespace {
 constexpr int kFewestColumns = 49;
 constexpr int kNarrowestColumn = 15;
 constexpr int kSmallestCount = 9;  // of the text below a bar, where columns are narrow
-constexpr int kHeight = 150;
+constexpr int kHeight = 100;
 constexpr int kGrowMilliseconds = 120;
 constexpr int kFrameMilliseconds = 16;
 

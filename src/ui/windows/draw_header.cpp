@@ -9,6 +9,7 @@
 #include <array>
 
 #include "ui/theme/theme.h"
+#include "ui/windows/eliding_label.h"
 
 namespace ui {
 namespace {
@@ -19,8 +20,8 @@ constexpr std::array<int, kBalls> kHeadings = {12, 11, 10, 9, 8, 7, 5};
 constexpr int kDateHeading = 6;
 constexpr int kNotice = 4;
 constexpr int kBallSize = 46;
-constexpr int kBallPerText = 38;  // what a ball needs at the text size chosen
-constexpr int kFieldPadding = 26;
+constexpr int kBallPerText = 34;  // what a ball needs at the text size chosen
+constexpr int kFieldPadding = 22;
 constexpr int kIconSize = 18;
 constexpr double kRing = 2;
 constexpr double kFaded = 0.4;
@@ -176,17 +177,15 @@ QBoxLayout* DrawHeader::MakeDate(Binder& binder) {
 }
 
 QBoxLayout* DrawHeader::MakeNotices(Binder& binder) {
-  auto* const row = new QHBoxLayout;
-  row->setSpacing(Theme::Current().Space(Spacing::kInside));
+  auto* const column = new QVBoxLayout;
+  column->setSpacing(0);
   for (base::Label* notice : {&window_->lblProductName1(kNotice), &window_->Label27}) {
-    auto* const label = MakeCaption(this, Qt::AlignLeft | Qt::AlignVCenter);
-    label->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
-    label->setMinimumWidth(0);
+    auto* const label = new ElidingLabel(1, this);
+    label->setProperty("caption", true);
     binder.Bind(label, *notice);
-    row->addWidget(label);
+    column->addWidget(label);
   }
-  row->addStretch(1);
-  return row;
+  return column;
 }
 
 QBoxLayout* DrawHeader::MakeButtons(Binder& binder) {

@@ -32,7 +32,8 @@ constexpr int kRowHeight = 27;
 constexpr int kListRowHeight = 22;
 constexpr int kBallColumn = 24;
 constexpr int kCellPadding = 10;
-constexpr int kFieldPadding = 10;
+constexpr int kFieldPadding = 16;
+constexpr auto kWidestBall = "00";
 constexpr auto kWidestDate = "00/00/00";
 constexpr auto kWidestDay = "Wed";
 constexpr auto kWidestLine = "00 00 00 00 00 00 00 00/00/00 0 We";
@@ -97,11 +98,13 @@ QVBoxLayout* MakeColumn(QWidget* parent) {
 DrawResultsPanel::DrawResultsPanel(Binder& binder, store::MainWindow& window, QWidget* parent)
     : QWidget(parent), window_(window) {
   const Theme& theme = Theme::Current();
-  auto* const row = new QHBoxLayout(this);
-  row->setContentsMargins(0, 0, 0, 0);
+  auto* const column = MakeColumn(this);
+  column->addWidget(MakeRowEditor(binder));
+  auto* const row = new QHBoxLayout;
   row->setSpacing(theme.Space(Spacing::kGap));
   row->addWidget(MakeTable(binder), 5);
   row->addLayout(MakeList(binder), 6);
+  column->addLayout(row, 1);
   connect(&theme, &Theme::changed, this, &DrawResultsPanel::Restyle);
   Restyle();
 }
@@ -120,7 +123,7 @@ QWidget* DrawResultsPanel::MakeTable(Binder& binder) {
   table_->horizontalHeader()->setHighlightSections(false);
   table_->horizontalHeader()->setSectionsClickable(true);
   table_->horizontalHeader()->setMinimumSectionSize(1);
-  column->addWidget(MakeRowEditor(binder));
+  table_->horizontalHeader()->setProperty("narrow", true);
   column->addWidget(table_, 1);
   binder.Bind(table_, window_.ListView1);
   auto* const below = new QHBoxLayout;
@@ -137,34 +140,38 @@ QFrame* DrawResultsPanel::MakeRowEditor(Binder& binder) {
   const Theme& theme = Theme::Current();
   auto* const editor = new QFrame(this);
   editor->setProperty("field", true);
-  auto* const column = new QVBoxLayout(editor);
-  column->setContentsMargins(theme.Space(Spacing::kSmall), theme.Space(Spacing::kSmall),
-                             theme.Space(Spacing::kSmall), theme.Space(Spacing::kSmall));
-  column->setSpacing(theme.Space(Spacing::kSmall));
-  auto* const fields = new QHBoxLayout;
-  fields->setSpacing(2);
-  for (int cell = 0; cell < kCells; ++cell) {
-    auto* const field = new QLineEdit(editor);
-    field->setAlignment(Qt::AlignCenter);
-    field->setTextMargins(-kFieldPadding + 3, 0, -kFieldPadding + 3, 0);
-    field->setMinimumWidth(1);
-    field->setAccessibleName(Shown(window_.ListView1.Headers()[static_cast<std::size_t>(cell)]));
-    binder.Bind(field, window_.TxtChange(cell));
-    fields->addWidget(field, cell == kDateColumn ? 5 : cell == kDayColumn ? 3 : 2);
-  }
-  column->addLayout(fields);
-  auto* const buttons = new QHBoxLayout;
-  buttons->setSpacing(theme.Space(Spacing::kSmall));
+  auto* const row = new QHBoxLayout(editor);
+  const int inside = theme.Space(Spacing::kSmall);
+  row->setContentsMargins(inside, inside, inside, inside);
+  row->setSpacing(theme.Space(Spacing::kTiny) / 2);
+  for (int cell = 0; cell < kCells; ++cell) row->addWidget(MakeRowField(binder, editor, cell));
+  row->addStretch(1);
+  row->addSpacing(inside);
   auto* const accept = new QPushButton(editor);
   binder.Bind(accept, window_.Label18);
   auto* const cancel = new QPushButton(editor);
   binder.Bind(cancel, window_.CmdCancelSave);
-  buttons->addStretch(1);
-  buttons->addWidget(accept);
-  buttons->addWidget(cancel);
-  column->addLayout(buttons);
+  row->addWidget(accept);
+  row->addSpacing(theme.Space(Spacing::kTiny));
+  row->addWidget(cancel);
   binder.Bind(static_cast<QWidget*>(editor), window_.Picture6);
   return editor;
+}
+
+QLineEdit* DrawResultsPanel::MakeRowField(Binder& binder, QWidget* editor, int cell) {
+  auto* const field = new QLineEdit(editor);
+  field->setProperty("narrow", true);
+  field->setAlignment(Qt::AlignCenter);
+  field->setAccessibleName(Shown(window_.ListView1.Headers()[static_cast<std::size_t>(cell)]));
+  binder.Bind(field, window_.TxtChange(cell));
+  const QLatin1String widest(cell == kDateColumn  ? kWidestDate
+                             : cell == kDayColumn ? kWidestDay
+                                                  : kWidestBall);
+  restyle_.push_back([field, widest] {
+    const QFontMetrics metrics(Theme::Current().Text());
+    field->setFixedWidth(metrics.horizontalAdvance(widest) + kFieldPadding);
+  });
+  return field;
 }
 
 QBoxLayout* DrawResultsPanel::MakeList(Binder& binder) {

@@ -24,6 +24,7 @@ class DrawResultsPanel : public QWidget {
   QWidget* MakeTable(Binder& binder);
   QBoxLayout* MakeList(Binder& binder);
   QFrame* MakeRowEditor(Binder& binder);
+  QLineEdit* MakeRowField(Binder& binder, QWidget* editor, int cell);
   void Restyle();
 
   store::MainWindow& window_;

@@ -6,41 +6,19 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QStyle>
 #include <QVBoxLayout>
 #include <array>
 
 #include "ui/theme/theme.h"
+#include "ui/windows/eliding_label.h"
 
 namespace ui {
 namespace {
 
+constexpr int kToldLines = 2;
+constexpr int kStripHeight = 160;
 constexpr int kSwatch = 11;
 constexpr double kSwatchRound = 3;
-
-// Up to two lines of text; a line ends in dots where there is no room for all of it.
-class ElidingLabel : public QLabel {
- public:
-  explicit ElidingLabel(QWidget* parent) : QLabel(parent) {
-    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  }
-  QSize sizeHint() const override { return {0, kLines * fontMetrics().height()}; }
-  QSize minimumSizeHint() const override { return sizeHint(); }
-
- protected:
-  void paintEvent(QPaintEvent*) override {
-    QPainter painter(this);
-    QStringList lines = text().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    for (QString& line : lines) {
-      line = fontMetrics().elidedText(line.trimmed(), Qt::ElideRight, width());
-    }
-    style()->drawItemText(&painter, rect(), static_cast<int>(alignment()), palette(), isEnabled(),
-                          lines.mid(0, kLines).join(QLatin1Char('\n')), foregroundRole());
-  }
-
- private:
-  static constexpr int kLines = 2;
-};
 
 struct Entry {
   Role role;
@@ -144,7 +122,7 @@ QBoxLayout* GraphCard::MakeHead(Binder& binder) {
   connect(bars_, &BarsView::bandsChanged, legend, show_legend);
   show_legend();
 
-  auto* const told = MakeDim(new ElidingLabel(this), binder, window_.TxtGraph);
+  auto* const told = MakeDim(new ElidingLabel(kToldLines, this), binder, window_.TxtGraph);
   told->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   row->addWidget(told, 1);
   auto* const filtered = new QHBoxLayout;
@@ -167,7 +145,11 @@ QScrollArea* GraphCard::MakeStrip() {
   strip->setFrameShape(QFrame::NoFrame);
   strip->setFocusPolicy(Qt::NoFocus);
   strip->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  strip->setMinimumHeight(bars_->minimumHeight());
+  const auto set_height = [strip] {
+    strip->setMinimumHeight(Theme::Current().Scaled(kStripHeight));
+  };
+  connect(&Theme::Current(), &Theme::changed, strip, set_height);
+  set_height();
   connect(bars_, &BarsView::walked, strip, [this, strip](int ball) {
     const QRect column = bars_->ColumnRect(ball);
     strip->ensureVisible(column.center().x(), 0, column.width(), 0);

@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kBallSize = 24;
 constexpr int kBallGap = 2;
+constexpr int kReportLetters = 12;  // what a narrow chooser shows of a report's name
 constexpr int kPrint = 0;
 constexpr int kMakeWheel = 2;
 
@@ -34,10 +35,7 @@ bool IsBall(const QString& text) {
 // --- A sentence of the ranking
 
 RankingLine::RankingLine(Role band, QWidget* parent) : QWidget(parent), band_(band) {
-  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-  policy.setHeightForWidth(true);
-  setSizePolicy(policy);
-  connect(&Theme::Current(), &Theme::changed, this, [this] { updateGeometry(); });
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
 void RankingLine::SetSentence(const QString& sentence) {
@@ -51,8 +49,6 @@ void RankingLine::SetSentence(const QString& sentence) {
   }
   setAccessibleName(sentence.simplified());
   setVisible(!words_.isEmpty());
-  updateGeometry();
-  update();
 }
 
 int RankingLine::WordsWidth() const {
@@ -62,6 +58,7 @@ int RankingLine::WordsWidth() const {
 
 void RankingLine::SetBallsLeft(int left) {
   balls_left_ = left;
+  TakeHeight();
   updateGeometry();
   update();
 }
@@ -72,29 +69,32 @@ int RankingLine::BallsWidth() const {
   return static_cast<int>(balls_.size()) * (Theme::Current().Scaled(kBallSize) + kBallGap);
 }
 
-QSize RankingLine::sizeHint() const {
-  const int width = BallsLeft() + BallsWidth();
-  return {width, heightForWidth(width)};
-}
+QSize RankingLine::sizeHint() const { return {BallsLeft() + BallsWidth(), minimumHeight()}; }
 
 QSize RankingLine::minimumSizeHint() const {
   return {std::max(WordsWidth(), BallsWidth()), Theme::Current().Scaled(kBallSize)};
 }
 
-bool RankingLine::FitsOneLine(int width) const {
-  return balls_.isEmpty() || width >= BallsLeft() + BallsWidth();
+bool RankingLine::FitsOneLine() const {
+  return balls_.isEmpty() || width() >= BallsLeft() + BallsWidth();
 }
 
-int RankingLine::heightForWidth(int width) const {
+// The words stand above the balls where one line is too narrow for both.
+void RankingLine::TakeHeight() {
   const int ball = Theme::Current().Scaled(kBallSize);
-  if (FitsOneLine(width)) return ball;
-  return ball + QFontMetrics(Theme::Current().CaptionFont()).height() + kBallGap;
+  const int words = QFontMetrics(Theme::Current().CaptionFont()).height() + kBallGap;
+  setFixedHeight(FitsOneLine() ? ball : ball + words);
+}
+
+void RankingLine::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  TakeHeight();
 }
 
 void RankingLine::paintEvent(QPaintEvent*) {
   const Theme& theme = Theme::Current();
   const int ball = theme.Scaled(kBallSize);
-  const bool in_one_line = FitsOneLine(width());
+  const bool in_one_line = FitsOneLine();
   QPainter painter(this);
   painter.setFont(theme.CaptionFont());
   painter.setPen(theme.Colour(Role::kDim));
@@ -122,12 +122,16 @@ ReportPanel::ReportPanel(Binder& binder, store::MainWindow& window, QWidget* par
   column->setSpacing(theme.Space(Spacing::kSmall));
   for (RankingLine* line : ranking_) column->addWidget(line);
   binder.Watch(window.TxtResultsBox2, [this] { TakeRanking(); });
-  connect(&theme, &Theme::changed, &binder, [this] { TakeRanking(); });
+  connect(&theme, &Theme::changed, &binder, [this, &binder] {
+    if (binder.Form()) TakeRanking();
+  });
 
   auto* const row = new QHBoxLayout;
   row->setSpacing(theme.Space(Spacing::kSmall));
   auto* const report = new QComboBox(this);
   report->setAccessibleName(tr("Report"));
+  report->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  report->setMinimumContentsLength(kReportLetters);
   binder.Bind(report, window.Combo11);
   row->addWidget(report, 1);
   for (const int index : {kPrint, kMakeWheel}) {

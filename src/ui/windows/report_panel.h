@@ -24,16 +24,16 @@ class RankingLine : public QWidget {
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
-  bool hasHeightForWidth() const override { return true; }
-  int heightForWidth(int width) const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   int BallsLeft() const;
   int BallsWidth() const;
-  bool FitsOneLine(int width) const;
+  bool FitsOneLine() const;
+  void TakeHeight();
 
   const Role band_;
   QString words_;

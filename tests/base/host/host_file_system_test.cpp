@@ -6,9 +6,12 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <fstream>
+#include <functional>
 
 #include "base/host/host_paths.h"
 #include "base/language/error.h"
+#include "support/failing_disk.h"
 #include "support/temp_folder.h"
 
 namespace test {
@@ -61,6 +64,31 @@ TEST_F(HostFiles, TranslateNamesFromTheCodePage) {
   EXPECT_TRUE(fs::exists(folder_.Path() + "/\xC2\xA3.dat"));
 }
 
+TEST_F(HostFiles, MatchLettersOfTheCodePageInAnyCase) {
+  files_.Replace(Path("\xC9t\xE9.dat"), "x");
+  EXPECT_TRUE(files_.FileExists(Path("\xE9T\xC9.DAT")));
+}
+
+TEST_F(HostFiles, TakeTheFirstOfSeveralSpellings) {
+  for (const char* name : {"/ab", "/aB", "/Ab"}) std::ofstream(folder_.Path() + name) << name;
+  EXPECT_EQ(files_.ReadAll(Path("AB")), "/Ab");
+}
+
+TEST_F(HostFiles, KeepNamesThatTheHostLacks) {
+  EXPECT_EQ(base::ResolveHostPath(Path("\\No\\/Such\\")), folder_.Path() + "/No/Such");
+  EXPECT_EQ(base::ResolveHostPath(""), "");
+  EXPECT_EQ(base::ResolveHostPath("\\/"), "/");
+  EXPECT_EQ(base::ResolveHostPath("no such folder\\a"), "no such folder/a");
+}
+
+// A folder whose name the code page lacks is still found by what the desk makes of that name.
+TEST_F(HostFiles, FindNamesThatTheCodePageLacks) {
+  const std::string host_path = folder_.Path() + "/\xD0\x96";
+  fs::create_directory(host_path);
+  EXPECT_EQ(base::ToDeskPath(host_path), folder_.Path() + "/?");
+  EXPECT_EQ(base::ResolveHostPath(base::ToDeskPath(host_path)), host_path);
+}
+
 TEST_F(HostFiles, OpeningCreatesAnEmptyFile) {
   const auto file = files_.Open(Path("new.dat"));
   EXPECT_EQ(file->Length(), 0);
@@ -93,10 +121,57 @@ TEST_F(HostFiles, ReplaceKeepsALinkAndTheMode) {
   EXPECT_EQ(fs::status(folder_.Path() + "/real").permissions(), fs::perms(0600));
 }
 
+TEST_F(HostFiles, ReplaceFollowsALinkThatLeadsNowhereYet) {
+  fs::create_symlink("real", folder_.Path() + "/link");
+  files_.Replace(Path("link"), "one");
+  EXPECT_TRUE(fs::is_symlink(folder_.Path() + "/link"));
+  EXPECT_EQ(files_.ReadAll(Path("real")), "one");
+}
+
+TEST_F(HostFiles, ReplaceKeepsAModeThatNewFilesMayNotHave) {
+  files_.Replace(Path("a"), "one");
+  for (const mode_t mode : {0644u, 0666u}) {
+    chmod((folder_.Path() + "/a").c_str(), mode);
+    const mode_t mask = umask(077);
+    files_.Replace(Path("a"), "two");
+    umask(mask);
+    EXPECT_EQ(fs::status(folder_.Path() + "/a").permissions(), fs::perms(mode));
+  }
+}
+
+TEST_F(HostFiles, ReplaceTakesAwayWhatAKilledProcessLeft) {
+  const std::string left = folder_.Path() + "/a.new~" + std::to_string(getpid());
+  files_.Replace(Path("b"), "other");
+  fs::create_symlink("b", left);
+  files_.Replace(Path("a"), "one");
+  EXPECT_EQ(files_.ReadAll(Path("a")), "one");
+  EXPECT_EQ(files_.ReadAll(Path("b")), "other");
+  EXPECT_FALSE(fs::is_symlink(left));
+}
+
+TEST_F(HostFiles, OnlyARegularFileIsAFile) {
+  files_.Replace(Path("a"), "one");
+  fs::create_symlink("a", folder_.Path() + "/link");
+  ASSERT_EQ(mkfifo((folder_.Path() + "/pipe").c_str(), 0600), 0);
+  EXPECT_TRUE(files_.FileExists(Path("link")));
+  EXPECT_FALSE(files_.FileExists(Path("pipe")));
+  EXPECT_EQ(ErrorOf([&] { files_.Replace(Path("pipe"), "x"); }), 75);
+}
+
+TEST_F(HostFiles, RefuseATextTooLongToHold) {
+  files_.Replace(Path("a"), "");
+  ASSERT_EQ(truncate((folder_.Path() + "/a").c_str(), 1LL << 31), 0);
+  EXPECT_EQ(ErrorOf([&] { files_.ReadAll(Path("a")); }), 7);
+}
+
 TEST_F(HostFiles, TellTheClassicErrors) {
   fs::create_directory(folder_.Path() + "/sub");
   EXPECT_EQ(ErrorOf([&] { files_.ReadAll(Path("none")); }), 53);
   EXPECT_EQ(ErrorOf([&] { files_.Remove(Path("none")); }), 53);
+  EXPECT_EQ(ErrorOf([&] { files_.ReadAll(Path("nowhere/a")); }), 76);
+  EXPECT_EQ(ErrorOf([&] { files_.Remove(Path("nowhere/a")); }), 76);
+  EXPECT_EQ(ErrorOf([&] { files_.ReadAll(Path("sub")); }), 75);
+  EXPECT_EQ(ErrorOf([&] { files_.Remove(Path("sub")); }), 75);
   EXPECT_EQ(ErrorOf([&] { files_.Open(Path("sub")); }), 75);
   EXPECT_EQ(ErrorOf([&] { files_.Replace(Path("sub"), "x"); }), 75);
   EXPECT_EQ(ErrorOf([&] { files_.Open(Path("nowhere/a")); }), 76);
@@ -108,7 +183,17 @@ TEST_F(HostFiles, CarryTheHostsOwnWords) {
     files_.Open(Path("nowhere/a"));
     FAIL();
   } catch (const base::Error& error) {
-    EXPECT_EQ(error.Description().substr(0, 16), "Path not found: ");
+    EXPECT_EQ(error.Description(), "Path not found: No such file or directory, " +
+                                       base::ToDeskPath(folder_.Path() + "/nowhere/a"));
+  }
+}
+
+TEST_F(HostFiles, AMissingFileNeedsNoMoreWords) {
+  try {
+    files_.ReadAll(Path("none"));
+    FAIL();
+  } catch (const base::Error& error) {
+    EXPECT_EQ(error.Description(), "File not found");
   }
 }
 
@@ -119,6 +204,27 @@ TEST_F(HostFiles, AFileThatMayNotBeWrittenOpensForReading) {
   const auto file = files_.Open(Path("a"));
   EXPECT_EQ(file->ReadAt(0, 3), "one");
   EXPECT_EQ(ErrorOf([&] { file->Append("x"); }), 70);
+  EXPECT_EQ(ErrorOf([&] { files_.Replace(Path("a"), "x"); }), 70);
+  EXPECT_EQ(files_.ReadAll(Path("a")), "one");
+}
+
+TEST_F(HostFiles, AFileThatMayNotBeReadIsTold) {
+  if (geteuid() == 0) GTEST_SKIP() << "root may read everything";
+  files_.Replace(Path("a"), "one");
+  chmod((folder_.Path() + "/a").c_str(), 0);
+  EXPECT_EQ(ErrorOf([&] { files_.Open(Path("a")); }), 70);
+  EXPECT_EQ(ErrorOf([&] { files_.ReadAll(Path("a")); }), 70);
+}
+
+TEST_F(HostFiles, AFolderThatMayNotBeWrittenTakesNoFile) {
+  if (geteuid() == 0) GTEST_SKIP() << "root may write everything";
+  files_.Replace(Path("a"), "one");
+  chmod(folder_.Path().c_str(), 0500);
+  EXPECT_EQ(ErrorOf([&] { files_.Open(Path("new")); }), 70);
+  EXPECT_EQ(ErrorOf([&] { files_.Replace(Path("a"), "x"); }), 70);
+  EXPECT_EQ(ErrorOf([&] { files_.Remove(Path("a")); }), 70);
+  EXPECT_EQ(files_.ReadAll(Path("a")), "one");
+  chmod(folder_.Path().c_str(), 0700);
 }
 
 TEST_F(HostFiles, ListFilesByTheirEnding) {
@@ -126,6 +232,16 @@ TEST_F(HostFiles, ListFilesByTheirEnding) {
   fs::create_directory(folder_.Path() + "/d.dat");
   EXPECT_EQ(files_.List(folder_.Path(), ".dat"), (std::vector<std::string>{"a.dat", "b.DAT"}));
   EXPECT_TRUE(files_.List(Path("nowhere"), ".dat").empty());
+}
+
+TEST_F(HostFiles, ATornDiskKeepsHalfOfAnAppend) {
+  FailingDisk disk(files_);
+  const auto file = disk.Open(Path("a"));
+  disk.TearFromNow(2, base::Error(base::kDiskFull));
+  file->Append("whole");
+  EXPECT_EQ(ErrorOf([&] { file->Append("torn"); }), 61);
+  EXPECT_TRUE(disk.HasFailed());
+  EXPECT_EQ(files_.ReadAll(Path("a")), "wholeto");
 }
 
 // A real disk of 64 KiB, where this machine lets us have one.
@@ -154,6 +270,18 @@ TEST_F(SmallDisk, AFullDiskLeavesTheOldFileWhole) {
   EXPECT_EQ(ErrorOf([&] { files_.Replace(Path("a"), std::string(200000, 'y')); }), 61);
   EXPECT_EQ(files_.ReadAll(Path("a")), "old");
   EXPECT_EQ(Names(), std::vector<std::string>{"a"});
+}
+
+TEST_F(SmallDisk, AWriteProtectedDiskIsRead) {
+  files_.Replace(Path("a"), "one");
+  ASSERT_EQ(mount("", folder_.Path().c_str(), "", MS_REMOUNT | MS_RDONLY, ""), 0);
+  const auto file = files_.Open(Path("a"));
+  EXPECT_EQ(file->ReadAt(0, 9), "one");
+  EXPECT_EQ(ErrorOf([&] { file->Append("x"); }), 70);
+  EXPECT_EQ(ErrorOf([&] { files_.Open(Path("new")); }), 70);
+  EXPECT_EQ(ErrorOf([&] { files_.Replace(Path("a"), "x"); }), 70);
+  EXPECT_EQ(ErrorOf([&] { files_.Remove(Path("a")); }), 70);
+  EXPECT_EQ(files_.ReadAll(Path("a")), "one");
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 namespace base {
 namespace {
 
@@ -38,6 +40,18 @@ TEST(Profile, ReadsAsThePlatformDoes) {
 TEST(Profile, CutsAValueTo254Characters) {
   EXPECT_EQ(ReadIniText("[s]\nk=" + std::string(10000, 'x') + "\n", "s", "k"),
             std::string(254, 'x'));
+}
+
+// Whatever bytes a file holds, reading it ends, with no more than the longest value.
+TEST(Profile, SurvivesRandomBytes) {
+  std::mt19937 random(1);
+  const std::string bytes = std::string("[]=;\"' \r\n\tsk") + '\0' + '\xFF';
+  for (int round = 0; round < 2000; ++round) {
+    std::string text(random() % 600, ' ');
+    for (char& c : text) c = bytes[random() % bytes.size()];
+    EXPECT_LE(ReadIniText("[s]\nk=" + text, "s", "k").size(), 254u);
+    EXPECT_LE(ReadIniText(text, "s", "k").size(), 254u);
+  }
 }
 
 TEST(Profile, AMissingFileHasNoKeys) {
