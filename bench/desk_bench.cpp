@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "base/controls/list_controls.h"
@@ -93,5 +94,45 @@ void FillSortedList(benchmark::State& state) {
   }
 }
 BENCHMARK(FillSortedList)->Unit(benchmark::kMillisecond);
+
+// A desk with a full scan behind it, on which the analyses work.
+class Scanned : public benchmark::Fixture {
+ public:
+  void SetUp(benchmark::State&) override {
+    desk_ = std::make_unique<test::TestDesk>(Draws());
+    desk_->settings.Save("velmonte", "390", "Tips", "False");
+    desk_->Start();
+    desk_->User().Click(desk_->Main().CmdScan);
+    desk_->User().Click(desk_->Main().Label5);
+  }
+  void TearDown(benchmark::State&) override { desk_.reset(); }
+
+ protected:
+  void Apply(const std::string& row) {
+    base::ListBox& rows = desk_->Main().LstMainWinSettings;
+    for (int i = 0; i < rows.ListCount(); ++i) {
+      if (rows.Row(i) == row) desk_->User().Pick(rows, i);
+    }
+    desk_->User().DoubleClick(rows);
+  }
+  std::unique_ptr<test::TestDesk> desk_;
+};
+
+BENCHMARK_F(Scanned, DueReport)(benchmark::State& state) {
+  for (auto _ : state) desk_->User().Pick(desk_->Main().Combo11, 1);
+}
+BENCHMARK_F(Scanned, Statistics)(benchmark::State& state) {
+  for (auto _ : state) desk_->User().Choose(desk_->Frame().MnuStdDev);
+}
+BENCHMARK_F(Scanned, LowToHigh)(benchmark::State& state) {
+  for (auto _ : state) Apply("Low to high");
+}
+BENCHMARK_F(Scanned, ShowPastTwentyDraws)(benchmark::State& state) {
+  for (auto _ : state) Apply("Show past 20 draws");
+}
+BENCHMARK_F(Scanned, WinnerScan)(benchmark::State& state) {
+  for (int k = 0; k < 6; ++k) desk_->Main().Txtb1(k).SetText(std::to_string(7 * k + 1));
+  for (auto _ : state) desk_->User().Click(desk_->Main().Labscanwinners);
+}
 
 }  // namespace

@@ -1,5 +1,5 @@
-// How the desk feels on a screen with 32,767 draws: a full scan through the window, the longest time
-// in which the window answers nothing, and the start to the first painted window.
+// How the desk feels on a screen with 32,767 draws: a full scan through the window, the longest
+// time in which the window answers nothing, and the start to the first painted window.
 //
 //     screen_bench DATA-FOLDER        on the display that is set
 
@@ -41,7 +41,8 @@ void MeasureStart(const char* data) {
   ui::App app(folder.Path(), folder.Path() + "/settings.txt");
   app.Start();
   QCoreApplication::processEvents();
-  std::printf("start to first painted window   %5lld ms\n", static_cast<long long>(clock.elapsed()));
+  std::printf("start to first painted window   %5lld ms\n",
+              static_cast<long long>(clock.elapsed()));
   app.Desk().Stop();
   // The views go before the desk that they show.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -58,9 +59,8 @@ void MeasureScan(const char* data) {
   QElapsedTimer silence;
   qint64 longest = 0;
   QTimer watch;
-  QObject::connect(&watch, &QTimer::timeout, [&] {
-    longest = std::max(longest, silence.restart());
-  });
+  QObject::connect(&watch, &QTimer::timeout,
+                   [&] { longest = std::max(longest, silence.restart()); });
   QElapsedTimer clock;
   clock.start();
   silence.start();
