@@ -30,7 +30,7 @@ std::string MostCommonBall(std::string_view row) {
 }  // namespace
 
 std::string CountText(float count) {
-  const std::string text = base::SingleText(count);
+  std::string text = base::SingleText(count);
   if (count > 99) return text;
   return (count > 9 ? "0" : "00") + text;
 }

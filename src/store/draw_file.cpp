@@ -9,7 +9,7 @@ namespace store {
 namespace {
 
 // Large enough that a walk reads the disk rarely, small enough to stay in the processor's cache.
-constexpr std::size_t kBlock = 128 * 1024;
+constexpr std::size_t kBlock = std::size_t{128} * 1024;
 
 }  // namespace
 

@@ -195,10 +195,10 @@ std::optional<mode_t> ModeToReplace(const std::string& path) {
 
 // A new file. One of the same name was left by a process that was killed while it wrote.
 int OpenAnew(const std::string& path, mode_t mode) {
-  constexpr int flags = O_WRONLY | O_CREAT | O_EXCL;
-  const int descriptor = OpenHost(path, flags, mode);
+  constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL;
+  const int descriptor = OpenHost(path, kFlags, mode);
   if (descriptor >= 0 || errno != EEXIST || unlink(path.c_str()) != 0) return descriptor;
-  return OpenHost(path, flags, mode);
+  return OpenHost(path, kFlags, mode);
 }
 
 void FlushFolderOf(const std::string& path) {

@@ -80,7 +80,7 @@ void FillMenuBar(QMenuBar* bar, base::Form& form, Binder& binder) {
   }
 }
 
-QMenu* MakeViewMenu(QWidget* parent, std::function<void(std::function<void()>)> guard) {
+QMenu* MakeViewMenu(QWidget* parent, const std::function<void(std::function<void()>)>& guard) {
   auto* const menu = new QMenu(QStringLiteral("&View"), parent);
   Theme& theme = Theme::Current();
   AddChoices<Mode>(

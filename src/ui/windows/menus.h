@@ -12,6 +12,6 @@ void FillMenuBar(QMenuBar* bar, base::Form& form, Binder& binder);
 void FillMenu(QMenu* menu, base::MenuItem& parent, Binder& binder);
 
 // Our own menu: light or dark, and the size of the text. `guard` runs what may fail to be stored.
-QMenu* MakeViewMenu(QWidget* parent, std::function<void(std::function<void()>)> guard);
+QMenu* MakeViewMenu(QWidget* parent, const std::function<void(std::function<void()>)>& guard);
 
 }  // namespace ui
