@@ -6,8 +6,10 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/theme/theme.h"
 #include "ui/windows/painting.h"
@@ -16,8 +18,10 @@ namespace ui {
 namespace {
 
 constexpr int kCell = 28;
+constexpr double kLargestCell = 1.6;  // times that, where the window is high
 constexpr int kFieldWidth = 80;
 constexpr double kBallPart = 0.82;  // of its cell
+constexpr int kLines = scan::FrmDropDown::kRows + 1;
 constexpr base::Colour kUnmarked = 0xFFFFFF;
 
 }  // namespace
@@ -61,6 +65,7 @@ BallSelectorView::BallSelectorView(shell::Desk& desk, scan::FrmDropDown& form, Q
   auto* const area = new QScrollArea(card);
   area->setFrameShape(QFrame::NoFrame);
   area->setAccessibleName(tr("Board of marks"));
+  area->setWidgetResizable(true);
   area->setWidget(new BallBoard(binder_, form, area));
   column->addWidget(area, 1);
 }
@@ -73,15 +78,19 @@ BallBoard::BallBoard(Binder& binder, scan::FrmDropDown& form, QWidget* parent)
     form.Row(row).Each([&](base::Label& label) { binder.Watch(label, [this] { update(); }); });
   }
   connect(&binder, &Binder::detached, this, [this] { form_ = nullptr; });
-  connect(&Theme::Current(), &Theme::changed, this, [this] { resize(sizeHint()); });
-  resize(sizeHint());
+  connect(&Theme::Current(), &Theme::changed, this, [this] { FitTo(height()); });
+  FitTo(0);
 }
 
-int BallBoard::CellSize() const { return Theme::Current().Scaled(kCell); }
-
-QSize BallBoard::sizeHint() const {
-  return {CellSize() * scan::kLastColumn, CellSize() * (scan::FrmDropDown::kRows + 1)};
+void BallBoard::FitTo(int height) {
+  const int smallest = Theme::Current().Scaled(kCell);
+  cell_ = std::clamp(height / kLines, smallest, static_cast<int>(smallest * kLargestCell));
+  setFixedWidth(cell_ * scan::kLastColumn);
+  setMinimumHeight(smallest * kLines);
+  update();
 }
+
+void BallBoard::resizeEvent(QResizeEvent* event) { FitTo(event->size().height()); }
 
 void BallBoard::paintEvent(QPaintEvent* event) {
   const Theme& theme = Theme::Current();
@@ -89,7 +98,7 @@ void BallBoard::paintEvent(QPaintEvent* event) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.fillRect(event->rect(), theme.Colour(Role::kCard));
   if (!form_) return;
-  const int cell = CellSize();
+  const int cell = cell_;
   for (int ball = 1; ball <= scan::kLastColumn; ++ball) {
     const int left = (ball - 1) * cell;
     if (left > event->rect().right() || left + cell < event->rect().left()) continue;

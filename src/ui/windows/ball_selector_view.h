@@ -1,12 +1,9 @@
 #pragma once
 
-#include <QPointer>
 #include <QWidget>
 
 #include "scan/ball_selector.h"
 #include "ui/bind/binder.h"
-
-class QScrollArea;
 
 namespace ui {
 
@@ -27,15 +24,17 @@ class BallBoard : public QWidget {
 
  public:
   BallBoard(Binder& binder, scan::FrmDropDown& form, QWidget* parent);
-  QSize sizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
-  int CellSize() const;
+  // The largest cells that this height holds, within bounds.
+  void FitTo(int height);
 
   scan::FrmDropDown* form_;
+  int cell_ = 0;
 };
 
 }  // namespace ui
