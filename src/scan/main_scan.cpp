@@ -35,7 +35,9 @@ void MainScan::Wire() {
   place_.window.CmdScan.on.click = [this] { CmdScan_Click(); };
 }
 
-void MainScan::CmdScan_Click() {
+void MainScan::CmdScan_Click() { StartOrStop(true); }
+
+void MainScan::StartOrStop(bool may_ask) {
   store::MainWindow& window = place_.window;
   window.Check1.SetValue(0);
   window.LabFilterCount.SetCaption("0");
@@ -51,7 +53,7 @@ void MainScan::CmdScan_Click() {
 
   window.CmdScan.SetCaption(kRunning);
   place_.session.filter_count = 1;
-  if (base::NumericValue(window.txtRecNum.Text()) >= place_.session.UpperBound() - 1) {
+  if (may_ask && base::NumericValue(window.txtRecNum.Text()) >= place_.session.UpperBound() - 1) {
     if (!ConfirmNewScan()) return;
   }
   ScanFromHere();
@@ -72,11 +74,15 @@ bool MainScan::ConfirmNewScan() {
     window.CmdScan.SetCaption(kIdle);
     return false;
   }
+  if (place_.session.current_draw.b[0].empty()) {
+    StopSteps();  // a database without draws has nothing to scan
+    return false;
+  }
   browsing_.GotoDataBasePosition1MainWindow();
   entry_.CmdReset_Click();
   window.CmdScan.SetCaption(kIdle);
   window.txtRecNum.SetText(base::SingleText(place_.session.current_draw_number));
-  CmdScan_Click();
+  StartOrStop(false);  // in a file of one or two draws it would ask again for ever
   return true;
 }
 

@@ -32,6 +32,7 @@ class MainScan {
  private:
   enum class Pass { kNext, kFinish, kSuspend };
 
+  void StartOrStop(bool may_ask);
   void StopSteps();
   bool ConfirmNewScan();
   void ScanFromHere();

@@ -92,7 +92,7 @@ T& TargetOf(Stage& stage, const Arguments& words, ControlKind kind, const char* 
 
 base::Control& FocusTarget(Stage& stage, const Arguments& words) {
   base::Control& control = Target(stage, words);
-  if (!control.TakesFocus() || !control.Visible()) {
+  if (!control.TakesFocus()) {
     throw WrongScript(control.FullName() + " cannot take the focus");
   }
   return control;

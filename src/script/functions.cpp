@@ -1,7 +1,11 @@
 #include "script/functions.h"
 
+#include "store/pasted_line.h"
+
 #include <charconv>
+#include <cmath>
 #include <functional>
+#include <limits>
 
 #include "base/host/profile.h"
 #include "base/language/dates.h"
@@ -40,7 +44,9 @@ class Call {
     double number = 0;
     const char* const end = word.text.data() + word.text.size();
     const auto [stop, error] = std::from_chars(word.text.data(), end, number);
-    if (word.quoted || stop != end || error != std::errc()) return std::nullopt;
+    if (word.quoted || stop != end || error != std::errc() || !std::isfinite(number)) {
+      return std::nullopt;
+    }
     return number;
   }
 
@@ -70,16 +76,24 @@ std::string ProfileText(const Call& call) {
   return base::ReadIniString(files, call.Text(0), call.Text(1), path);
 }
 
+float ToFloat(double number) {
+  if (std::fabs(number) > std::numeric_limits<float>::max()) throw base::Error(base::kOverflow);
+  return static_cast<float>(number);
+}
+
 const std::vector<Function>& Functions() {
   static const std::vector<Function> functions{
       {"PadBall", 1, [](const Call& c) { return TextJson(store::PadBall(c.Text(0))); }},
+      {"StripLetters", 1, [](const Call& c) { return TextJson(store::StripLetters(c.Text(0))); }},
+      {"StripSymbols", 1, [](const Call& c) { return TextJson(store::StripSymbols(c.Text(0))); }},
+      {"StripControls", 1, [](const Call& c) { return TextJson(store::StripControls(c.Text(0))); }},
       {"DrawLine", 1, [](const Call& c) { return TextJson(DrawLineAt(c)); }},
       {"ReadIniString", 3, [](const Call& c) { return TextJson(ProfileText(c)); }},
       {"WeekDayName", 1,
        [](const Call& c) { return TextJson(base::DateText(c.Text(0), "dddd", c.Dates())); }},
       {"DoubleText", 1, [](const Call& c) { return TextJson(base::DoubleText(c.Number(0))); }},
       {"SingleText", 1,
-       [](const Call& c) { return TextJson(base::SingleText(static_cast<float>(c.Number(0)))); }},
+       [](const Call& c) { return TextJson(base::SingleText(ToFloat(c.Number(0)))); }},
       {"ToInt16", 1,
        [](const Call& c) { return c.Whole([](auto value) { return base::ToInt16(value); }); }},
       {"ToInt32", 1,

@@ -5,6 +5,7 @@
 
 #include "base/controls/list_controls.h"
 #include "base/language/code_page.h"
+#include "base/language/text.h"
 #include "script/functions.h"
 #include "script/globals.h"
 #include "script/wrong_script.h"
@@ -161,6 +162,9 @@ Json Setting(Stage& stage, const Arguments& words) {
 
 Json File(Stage& stage, const Arguments& words) {
   words.Demand(1);
+  for (const std::string& name : base::Split(base::ReplaceAll(words.Text(0), "\\", "/"), "/")) {
+    if (name == "..") throw WrongScript("a file is asked for below the program folder");
+  }
   const std::string path = stage.PathOf(words.Text(0));
   if (!stage.Files().FileExists(path)) return Json();
   return TextJson(stage.Files().ReadAll(path));

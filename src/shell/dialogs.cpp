@@ -58,9 +58,12 @@ void Options::Label3_Click() {
 
 void Options::SaveDateFormat() {
   base::Settings& settings = desktop_.World().settings;
-  if (window_.OptDateFormat(0).Value()) session_.date_format_text = kDayFirstPattern;
-  if (window_.OptDateFormat(1).Value()) session_.date_format_text = kMonthFirstPattern;
-  settings.Save(kDeskApplication, session_.version_section, "Region", session_.date_format_text);
+  const std::string_view patterns[] = {kDayFirstPattern, kMonthFirstPattern};
+  for (int member = 0; member < 2; ++member) {
+    if (!window_.OptDateFormat(member).Value()) continue;
+    session_.date_format_text = patterns[member];
+    settings.Save(kDeskApplication, session_.version_section, "Region", patterns[member]);
+  }
   settings.Save(kTitleApplication, "ChecDataBase", "DateFormat",
                 base::BooleanText(window_.OptDateFormat(0).Value()));
 }

@@ -15,7 +15,7 @@ constexpr const char* kErrorSource = "QND";
 
 // Only errors of files come from the host and have a system error behind them.
 int LastSystemError(const base::Error& error) {
-  return error.Number() >= base::kBadFileName && error.Number() <= base::kPathNotFound ? errno : 0;
+  return error.Number() > base::kBadFileName && error.Number() <= base::kPathNotFound ? errno : 0;
 }
 
 }  // namespace

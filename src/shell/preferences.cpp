@@ -43,6 +43,7 @@ std::string VersionText(const Version& version) {
 }
 
 void ReadRegion(base::Settings& settings, store::Session& session) {
+  session.date_format_text = kMonthFirstPattern;  // what a broken setting falls back to
   for (const std::string_view pattern : {kDayFirstPattern, kMonthFirstPattern}) {
     if (settings.Get(kDeskApplication, session.version_section, "Region", pattern) == pattern) {
       session.date_format_text = pattern;

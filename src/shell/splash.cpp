@@ -1,5 +1,6 @@
 #include "shell/splash.h"
 
+#include "base/language/error.h"
 #include "shell/preferences.h"
 #include "store/setting_names.h"
 
@@ -28,8 +29,12 @@ void Splash::Form_Load() {
 
 void Splash::CmdContinue_Click() {
   if (window_.ChkNoSplash.Value() == 1) {
-    desktop_.World().settings.Save(store::kDeskApplication, session_.version_section, kSplashKey,
-                                   std::to_string(kSkip));
+    try {
+      desktop_.World().settings.Save(store::kDeskApplication, session_.version_section, kSplashKey,
+                                     std::to_string(kSkip));
+    } catch (const base::Error&) {
+      // A wish that cannot be kept must not keep the desk from starting.
+    }
   }
   show_frame_();
   desktop_.Unload(window_);

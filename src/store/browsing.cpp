@@ -169,6 +169,7 @@ void Browsing::ClearHighlight() {
     bar.SetBackColor(kWhite);
   });
   const int old_first_ball = place_.session.current_balls[0];
+  if (!window.Label1.Has(old_first_ball)) return;
   window.Label1(old_first_ball).SetForeColor(0);
   window.Label2(old_first_ball).SetForeColor(0);
 }
@@ -178,7 +179,9 @@ void Browsing::Highlight() {
   if (!place_.session.mnu_hgight_on) return;
   if (base::NumericValue(window.txtRecNum.Text()) <= 1) return;
   for (std::size_t k = 0; k < 6; ++k) {
-    base::Bar& bar = window.ProgressBar1(place_.session.current_balls[k]);
+    const int ball = place_.session.current_balls[k];
+    if (!window.ProgressBar1.Has(ball)) continue;
+    base::Bar& bar = window.ProgressBar1(ball);
     bar.SetBorderStyle(1);
     bar.SetBackColor(kHighlight);
   }

@@ -1,5 +1,6 @@
 #include "store/entry.h"
 
+#include <algorithm>
 #include <array>
 
 #include "base/language/dates.h"
@@ -303,19 +304,39 @@ void Entry::SaveEdit() {
     place_.Ask({.text = "Please check the date is in this format 00/00/00"});
     return;
   }
-  ReplaceEditedLine();
-  place_.Yield();
-  neighbours_.DoDataBase();
+  try {
+    ReplaceEditedLine();
+    place_.Yield();
+    neighbours_.DoDataBase();
+  } catch (const base::Error&) {
+    window.List7.SetEnabled(true);
+    throw;
+  }
   window.List7.SetEnabled(true);
 }
 
+// The table's row of a draw line. While rows and lines are as many they share their numbers; after
+// a removal from the table the row is the last one before the line's number that reads alike, 0 for
+// none.
+int Entry::RowOfLine(int number, const std::string& line) const {
+  const base::ListView& table = place_.window.ListView1;
+  if (table.RowCount() == place_.window.List7.ListCount()) return number;
+  DrawRecord draw;
+  ParseDrawLine(line, draw);
+  int row = std::min(number, table.RowCount());
+  while (row > 0 && table.Row(row) != TableRow(draw)) --row;
+  return row;
+}
+
 void Entry::ReplaceEditedLine() {
-  const int row = place_.session.selected_list_row;
+  const int number = place_.session.selected_list_row;
   MainWindow& window = place_.window;
   const std::string line = LineOfBoxes();
-  window.List7.RemoveItem(row - 1);
+  const int row = RowOfLine(number, window.List7.Row(number - 1));
+  window.List7.RemoveItem(number - 1);
   place_.Yield();
-  window.List7.InsertItem(row - 1, line);
+  window.List7.InsertItem(number - 1, line);
+  if (row == 0) return;
   // The table is what a close is written from, so it has to know the edit as well.
   DrawRecord edited;
   ParseDrawLine(line, edited);

@@ -55,6 +55,7 @@ class Entry {
   void StartEdit();
   void SaveEdit();
   void ReplaceEditedLine();
+  int RowOfLine(int number, const std::string& line) const;
   bool BoxesAreValid();
   void CheckValidData();
   bool CheckSaveBoxes(base::TextBox& box, const std::string& name);

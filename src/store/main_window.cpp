@@ -39,7 +39,7 @@ void MainWindow::SetCaptions() {
       {Label7(8), "B5"},
       {Label7(7), "B6"},
       {Label7(5), "BB"},
-      {Label7(6), "Day \xB7 Date"},
+      {Label7(6), "Date \xB7 Day"},
       {lblProductName1(4), "Quorbit Number Desk"},
       {cmdFirst, "First"},
       {cmdPrev, "Previous"},

@@ -24,8 +24,8 @@ class MainWindow : public base::Form {
   base::TextBox TxtBall05{*this, "TxtBall05"};
   base::TextBox TxtBall06{*this, "TxtBall06"};
   base::TextBox TxtBallBB{*this, "TxtBallBB"};
-  base::TextBox TxtBall07{*this, "TxtBall07"};  // the day
   base::TextBox txtDate{*this, "txtDate"};
+  base::TextBox TxtBall07{*this, "TxtBall07"};  // the day, which fills itself from the date
   base::TextBox txtRecNum{*this, "txtRecNum"};
   base::Label Label27{*this, "Label27"};
   base::Group<base::Label> lblProductName1{*this, "lblProductName1", 4, 4};

@@ -57,7 +57,11 @@ void WorkingCopy::DoDataBase() {
     files.Remove(session.temp_path);
   } catch (const base::Error& error) {
     window.List7.SetEnabled(true);
+    DropTemp();
     place_.reporter.Report("DoDataBase", error);
+  } catch (const base::WindowClosed&) {
+    DropTemp();
+    throw;
   }
   Trapped(place_.reporter, "DoDataBase", [&] {
     session.data_base_path = database;
@@ -72,6 +76,16 @@ void WorkingCopy::DoDataBase() {
     session.temp_path.clear();
     session.data_base_name.clear();
   });
+}
+
+// What a broken rewrite gathered must not stand in front of the next one. The database is whole.
+void WorkingCopy::DropTemp() {
+  place_.session.file.Close();
+  try {
+    place_.World().files.Remove(place_.session.temp_path);
+  } catch (const base::Error&) {
+    // There was none yet.
+  }
 }
 
 void WorkingCopy::AppendLines() {
@@ -103,14 +117,28 @@ void WorkingCopy::RewriteFromTable() {
   Trapped(place_.reporter, "Form_Unload", [&] { AppendRows(); });
 }
 
+// Copies a row by way of the boxes into current_draw. A row that the boxes cannot show, because a
+// ball of it is no number, is taken as it stands.
+void WorkingCopy::TakeRow(int row) {
+  try {
+    browsing_.ShowSelectedRow();
+    entry_.SaveFields();
+  } catch (const base::Error&) {
+    const base::ListView::Cells& cells = place_.window.ListView1.Row(row);
+    DrawRecord& draw = place_.session.current_draw;
+    for (int k = 0; k < kBalls; ++k) draw.Ball(k) = PadBall(cells[static_cast<std::size_t>(k)]);
+    draw.date = cells[kBalls];
+    draw.day = TwoLetterDay(cells[kBalls + 1]);
+  }
+}
+
 void WorkingCopy::AppendRows() {
   Session& session = place_.session;
   base::ListView& table = place_.window.ListView1;
   Batch batch;
   for (int row = 1; row <= table.RowCount(); ++row) {
     table.Select(row);
-    browsing_.ShowSelectedRow();
-    entry_.SaveFields();
+    TakeRow(row);
     Add(batch, 0, session.current_draw);
   }
   session.data_base_path =
@@ -118,6 +146,7 @@ void WorkingCopy::AppendRows() {
   place_.World().files.Replace(session.data_base_path, batch.bytes);
   session.file.Open(session.data_base_path);
   session.file_len = session.file.Length();
+  session.draw_pos = {0};
   IndexBatch(session, batch);
 }
 

@@ -24,7 +24,9 @@ class WorkingCopy {
 
  private:
   std::string DataBasePath() const;
+  void DropTemp();
   void AppendLines();
+  void TakeRow(int row);
   void AppendRows();
   void Reopen();
 

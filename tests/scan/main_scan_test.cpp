@@ -295,5 +295,25 @@ TEST(MainScan, ShowsAHiddenBoxThatHasABall) {
   EXPECT_TRUE(desk.Main().TxtBall06.Visible());
 }
 
+// The question came up again inside its own rescan, without end.
+TEST(MainScan, AsksOnceInAFileOfOneDraw) {
+  TestDesk desk(SevenBallDraws(1));
+  desk.settings.Save("velmonte", "390", "Tips", "False");
+  desk.Start();
+  desk.User().Click(desk.Main().CmdScan);
+  EXPECT_EQ(desk.boxes.shown.size(), 1u);
+  EXPECT_EQ(desk.Main().CmdScan.Caption(), "Scan");
+  EXPECT_EQ(desk.Main().ProgressBar1(1).Value(), 2);
+}
+
+TEST(MainScan, EndsQuietlyInAnEmptyDatabase) {
+  TestDesk desk(std::vector<store::DrawRecord>{});
+  desk.Start();
+  desk.User().Click(desk.Main().CmdScan);
+  EXPECT_EQ(desk.boxes.shown.size(), 1u);
+  EXPECT_EQ(desk.Main().CmdScan.Caption(), "Scan");
+  EXPECT_TRUE(desk.Main().cmdAdd.Enabled());
+}
+
 }  // namespace
 }  // namespace test

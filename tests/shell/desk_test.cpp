@@ -177,5 +177,44 @@ TEST(Help, WithoutAFileTellsSo) {
             "Unable to display Help Contents. There is no Help associated with this project.");
 }
 
+TEST(Start, ASplashTickThatCannotBeStoredKeepsNothingFromStarting) {
+  TestDesk desk;
+  desk.Restart();
+  desk.settings.broken = true;
+  auto* splash = static_cast<shell::FrmSplash*>(desk.Desk().Find("frmSplash"));
+  desk.User().Click(splash->ChkNoSplash);
+  desk.User().Click(splash->CmdContinue);
+  EXPECT_NE(desk.Desk().Main(), nullptr);
+}
+
+TEST(Start, ABrokenDateFormatIsMonthFirst) {
+  TestDesk desk;
+  desk.settings.Save("Velmonte", "390", "Region", "garbage");
+  desk.Start();
+  EXPECT_EQ(desk.Session().date_format_text, "MM/DD/YY");
+}
+
+// Its own activation ended the whole start.
+TEST(Start, AMainWindowClosedInTheFirstYieldLeavesTheFrame) {
+  TestDesk desk;
+  desk.Restart();
+  desk.pump.At(1, [&] { desk.User().Close(desk.Main()); });
+  auto* splash = static_cast<shell::FrmSplash*>(desk.Desk().Find("frmSplash"));
+  desk.User().Click(splash->CmdContinue);
+  EXPECT_EQ(OpenNames(desk), std::vector<std::string>{"frmMain"});
+  EXPECT_TRUE(desk.Frame().Visible());
+}
+
+// The control was gone before the button came up over it.
+TEST(Stop, InTheMiddleOfAClickLeavesTheRestOut) {
+  TestDesk desk;
+  desk.settings.Save("velmonte", "390", "Tips", "False");
+  desk.Start();
+  desk.User().Click(desk.Main().CmdScan);
+  desk.pump.At(1, [&] { desk.Desk().Stop(); });
+  desk.User().Click(desk.Main().lblbuttons(0));
+  EXPECT_TRUE(desk.Desk().Ended());
+}
+
 }  // namespace
 }  // namespace test

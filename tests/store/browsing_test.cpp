@@ -179,5 +179,21 @@ TEST(StartDraw, EmptyBecomesZero) {
   EXPECT_EQ(desk.Main().TxtStartDrawAt(0).Text(), "0");
 }
 
+// A first ball without a bar kept every later row from the boxes.
+TEST(Browsing, GoesOnBehindABallWithoutABar) {
+  auto draws = SampleDraws(40);
+  draws[2].b[0] = "150";
+  TestDesk desk(draws);
+  desk.settings.Save("velmonte", "390", "MnuHgight", "True");
+  desk.Start();
+  desk.User().Pick(desk.Main().ListView1, 3);
+  EXPECT_EQ(desk.Main().TxtBall01.Text(), "150");
+  desk.User().Pick(desk.Main().ListView1, 4);
+  desk.User().Pick(desk.Main().ListView1, 3);
+  desk.User().Pick(desk.Main().ListView1, 5);
+  EXPECT_EQ(desk.Main().txtRecNum.Text(), "4");
+  EXPECT_TRUE(desk.boxes.shown.empty());
+}
+
 }  // namespace
 }  // namespace test

@@ -249,5 +249,57 @@ TEST(Entry, KnowsTheDaysInTheirSpellings) {
   EXPECT_EQ(store::ShortDay("TU"), "TU");
 }
 
+// After a removal the table has a row less than there are lines: an edit went to the wrong row, and
+// the close lost a draw.
+TEST(Entry, AnEditAfterARemovalFindsItsRow) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.User().Pick(desk.Main().ListView1, 5);
+  desk.User().Click(desk.Main().Command18);
+  desk.User().Pick(desk.Main().List7, 9);
+  desk.User().Click(desk.Main().cmdedit);
+  desk.Main().TxtBall06.SetText("49");
+  desk.User().Click(desk.Main().cmdedit);
+  desk.Desk().Stop();
+  auto expected = SampleDraws(40);
+  expected[9].b[5] = "49";
+  expected.erase(expected.begin() + 4);
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+}
+
+// A full disk left the lines in Temp.dat, and the next edit put them in front of all draws.
+TEST(Entry, AFailedEditDoesNotDoubleTheNextOne) {
+  TestDesk desk;
+  desk.settings.Save("velmonte", "390", "Tips", "False");
+  FailingDisk disk(desk.host_files);
+  desk.files = &disk;
+  desk.Start();
+  const auto edit = [&] {
+    desk.User().Pick(desk.Main().List7, 4);
+    desk.User().Click(desk.Main().cmdedit);
+    desk.User().Click(desk.Main().cmdedit);
+  };
+  for (int failing = 2; failing < 12; ++failing) {
+    disk.FailFromNow(failing, base::Error(base::kDiskFull));
+    edit();
+    disk.FailFromNow(1000000, base::Error(base::kDiskFull));
+    edit();
+    EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(40))) << "operation " << failing;
+  }
+}
+
+TEST(Entry, AnEditOfTheFirstDrawThroughTheTableTellsTheError) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.User().Pick(desk.Main().ListView1, 1);
+  desk.User().Click(desk.Main().cmdedit);
+  desk.User().Click(desk.Main().cmdedit);
+  const auto texts = desk.TakeBoxTexts();
+  ASSERT_EQ(texts.size(), 1u);
+  EXPECT_NE(texts[0].find("illigal operation at cmdedit_Click"), std::string::npos);
+  EXPECT_TRUE(desk.Main().List7.Enabled());
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(40)));
+}
+
 }  // namespace
 }  // namespace test

@@ -138,5 +138,30 @@ TEST(WorkingCopy, ACloseLosesNoDrawWhereverTheDiskFails) {
       Encode(SampleDraws(40)), Encode(shorter));
 }
 
+// One ball that is no number kept every change from the file.
+TEST(WorkingCopy, TakesARowThatTheBoxesCannotShowAsItStands) {
+  TestDesk desk;
+  desk.Start();
+  desk.Main().ListView1.SetCell(3, 0, "01x");
+  desk.Main().ListView1.RemoveRow(2);
+  desk.Session().data_base_changed = true;
+  desk.Desk().Stop();
+  auto expected = SampleDraws(40);
+  expected[2].b[0] = "01x";
+  expected.erase(expected.begin() + 1);
+  EXPECT_TRUE(desk.boxes.shown.empty());
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+}
+
+TEST(WorkingCopy, RewritesMoreThanHalfOfWhatTheCounterHolds) {
+  TestDesk desk(SampleDraws(17000));
+  desk.Start();
+  desk.Main().ListView1.RemoveRow(17000);
+  desk.Session().data_base_changed = true;
+  desk.Desk().Stop();
+  EXPECT_TRUE(desk.boxes.shown.empty());
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(16999)));
+}
+
 }  // namespace
 }  // namespace test

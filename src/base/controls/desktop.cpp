@@ -36,7 +36,13 @@ void Desktop::Show(Form& form) {
 void Desktop::Activate(Form& form) {
   if (!form.Loaded()) return;
   BringToFront(form);
-  if (form.on.activate) form.on.activate();
+  if (!form.on.activate) return;
+  try {
+    form.on.activate();
+  } catch (const WindowClosed&) {
+    // Its own activation ended with it; whoever shows the window goes on.
+    if (form.Loaded()) throw;
+  }
 }
 
 void Desktop::BringToFront(Form& form) {
@@ -71,9 +77,7 @@ void Desktop::Bury(std::shared_ptr<void> window) {
 }
 
 void Desktop::SetFocus(Control& control) {
-  if (&control == focused_ || !control.TakesFocus() || !control.Enabled() || !control.Visible()) {
-    return;
-  }
+  if (&control == focused_ || !control.TakesFocus() || !control.Enabled()) return;
   Control* const old = focused_;
   focused_ = &control;
   if (old && old->on.lost_focus) old->on.lost_focus();

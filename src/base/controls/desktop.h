@@ -54,8 +54,8 @@ class Desktop {
   void Bury(std::shared_ptr<void> window);
 
   Control* Focused() const { return focused_; }
-  // Lost-focus of the old control, then got-focus of the new one. Controls that take no focus, or
-  // are disabled or hidden, are passed over.
+  // Lost-focus of the old control, then got-focus of the new one. Controls that take no focus or
+  // are disabled are passed over.
   void SetFocus(Control& control);
   // The next control in the order of the window that can take the focus.
   void FocusNext();

@@ -30,9 +30,19 @@ void User::Click(Control& control) {
     Choose(static_cast<MenuItem&>(control));
     return;
   }
-  Focus(control);
-  Press(control, MouseButton::kLeft);
-  Release(control);
+  // One event from the first step to the last: a step may close the window, which then has to live
+  // on until the end.
+  desktop_.Dispatch([&] {
+    const Form& window = control.Window();
+    const auto in_window = [&] { return window.Loaded() && control.Enabled(); };
+    Focus(control);
+    if (in_window()) Press(control, MouseButton::kLeft);
+    if (in_window()) Release(control);
+    if (in_window()) ClickOnly(control);
+  });
+}
+
+void User::ClickOnly(Control& control) {
   desktop_.Dispatch([&] {
     if (control.Kind() == ControlKind::kTick) {
       auto& tick = static_cast<Tick&>(control);
@@ -129,9 +139,12 @@ void User::EditText(TextBox& box, std::string_view text) {
 
 void User::Paste(TextBox& box, std::string_view text) {
   Refuse(box);
-  Focus(box);
-  EditText(box, text);
-  Release(box);
+  desktop_.Dispatch([&] {
+    const Form& window = box.Window();
+    Focus(box);
+    if (window.Loaded()) EditText(box, text);
+    if (window.Loaded() && box.Enabled()) Release(box);
+  });
 }
 
 void User::Key(Control& control, int code) {

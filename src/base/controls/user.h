@@ -58,6 +58,7 @@ class User {
 
  private:
   void Refuse(const Control& control) const;
+  void ClickOnly(Control& control);
   void TypeKey(std::string_view name);
   void Backspace(TextBox& box);
 

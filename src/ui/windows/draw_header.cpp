@@ -157,8 +157,8 @@ QBoxLayout* DrawHeader::MakeDate(Binder& binder) {
   binder.Bind(heading, window_->Label7(kDateHeading));
   auto* const fields = new QHBoxLayout;
   fields->setSpacing(theme.Space(Spacing::kTiny));
-  date_fields_ = {MakeField(binder, window_->TxtBall07, tr("Day"), QStringLiteral("Wedn")),
-                  MakeField(binder, window_->txtDate, tr("Date"), QStringLiteral("00/00/0000"))};
+  date_fields_ = {MakeField(binder, window_->txtDate, tr("Date"), QStringLiteral("00/00/0000")),
+                  MakeField(binder, window_->TxtBall07, tr("Day"), QStringLiteral("Wedn"))};
   for (QLineEdit* field : date_fields_) fields->addWidget(field);
   date->addWidget(heading);
   date->addLayout(fields);
