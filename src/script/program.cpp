@@ -51,9 +51,9 @@ int RunProgram(const std::vector<std::string>& arguments, std::istream& in, std:
       return kWholeScriptRan;
     }
     if (options.version) {
-      constexpr shell::Version version;
-      out << "number-desk-script " << version.major << '.' << version.minor << '.'
-          << version.revision << '\n';
+      constexpr shell::Version kVersion;
+      out << "number-desk-script " << kVersion.major << '.' << kVersion.minor << '.'
+          << kVersion.revision << '\n';
       return kWholeScriptRan;
     }
     return options.script.empty() ? Play(options, in, out, err) : PlayFile(options, out, err);
