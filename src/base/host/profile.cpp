@@ -31,34 +31,50 @@ bool ReadHeading(std::string_view line, std::string_view& name) {
 
 }  // namespace
 
-std::string ReadIniText(std::string_view text, std::string_view section, std::string_view key) {
-  bool in_section = false;
+Profile::Profile(std::string_view text) { ReadAll(text); }
+
+Profile::Profile(FileSystem& files, const std::string& path) {
+  try {
+    ReadAll(files.ReadAll(path));
+  } catch (const Error&) {
+    sections_.clear();
+  }
+}
+
+void Profile::ReadAll(std::string_view text) {
+  Values* section = nullptr;
   while (!text.empty()) {
     const std::size_t end = text.find('\n');
     const std::string_view line = Trim(text.substr(0, end));
     text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
     std::string_view heading;
     if (ReadHeading(line, heading)) {
-      if (in_section) return {};  // the first section of the name is the one that counts
-      in_section = EqualNoCase(heading, section);
+      const auto [place, is_first] = sections_.try_emplace(Lower(heading));
+      section = is_first ? &place->second : nullptr;
       continue;
     }
-    if (!in_section || line.empty() || line.front() == ';') continue;
+    if (section == nullptr || line.empty() || line.front() == ';') continue;
     const std::size_t equals = line.find('=');
     if (equals == std::string_view::npos) continue;
-    if (!EqualNoCase(Trim(line.substr(0, equals)), key)) continue;
-    return std::string(WithoutQuotes(Trim(line.substr(equals + 1))).substr(0, kLongestValue));
+    const std::string_view value = WithoutQuotes(Trim(line.substr(equals + 1)));
+    section->try_emplace(Lower(Trim(line.substr(0, equals))), value.substr(0, kLongestValue));
   }
-  return {};
+}
+
+std::string Profile::Value(std::string_view section, std::string_view key) const {
+  const auto values = sections_.find(Lower(section));
+  if (values == sections_.end()) return {};
+  const auto value = values->second.find(Lower(key));
+  return value == values->second.end() ? std::string() : value->second;
+}
+
+std::string ReadIniText(std::string_view text, std::string_view section, std::string_view key) {
+  return Profile(text).Value(section, key);
 }
 
 std::string ReadIniString(FileSystem& files, std::string_view section, std::string_view key,
                           const std::string& path) {
-  try {
-    return ReadIniText(files.ReadAll(path), section, key);
-  } catch (const Error&) {
-    return {};
-  }
+  return Profile(files, path).Value(section, key);
 }
 
 }  // namespace base
