@@ -98,7 +98,11 @@ void WorkingCopy::AppendLines() {
     session.current_draw.day = TwoLetterDay(session.current_draw.day);
     Add(batch, session.file_len, session.current_draw);
   }
-  session.file.AppendBytes(batch.bytes);
+  // In one step: part of a record, left by a kill, would stand in front of the next edit and make
+  // every record behind it unreadable.
+  base::FileSystem& files = place_.World().files;
+  files.Replace(session.temp_path, files.ReadAll(session.temp_path) + batch.bytes);
+  session.file.Open(session.temp_path);
   session.file_len = session.file.Length();
   IndexBatch(session, batch);
 }
