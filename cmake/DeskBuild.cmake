@@ -26,6 +26,7 @@ endif()
 function(desk_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
   add_library(desk_${name} STATIC ${ARG_SOURCES})
-  target_include_directories(desk_${name} PUBLIC "${CMAKE_SOURCE_DIR}/src")
+  target_include_directories(desk_${name} PUBLIC "${CMAKE_SOURCE_DIR}/src"
+                             "${CMAKE_BINARY_DIR}/generated")
   target_link_libraries(desk_${name} PUBLIC ${ARG_LINK})
 endfunction()

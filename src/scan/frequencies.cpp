@@ -162,10 +162,12 @@ void Frequencies::lblbuttons_MouseDown(int index) {
     return;
   }
   if (index == 0) PrintReport();
-  if (index == 2) {
-    place_.Ask({.text = "This version of the desk has no wheel window yet."});
-    ScaleStep();
-  }
+  if (index == 2) MakeWheel();
+}
+
+void Frequencies::MakeWheel() {
+  neighbours_.HandOverToWheels();
+  ScaleStep();
 }
 
 void Frequencies::PrintReport() {

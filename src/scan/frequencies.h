@@ -9,7 +9,15 @@ namespace scan {
 // least common balls, the due list, and the files and hand-overs of the reports.
 class Frequencies {
  public:
-  Frequencies(store::Workplace place, Graph& graph) : place_(place), graph_(graph) {}
+  class Neighbours {
+   public:
+    virtual ~Neighbours() = default;
+    // Opens the wheel window with the counts that the bars show.
+    virtual void HandOverToWheels() = 0;
+  };
+
+  Frequencies(store::Workplace place, Graph& graph, Neighbours& neighbours)
+      : place_(place), graph_(graph), neighbours_(neighbours) {}
 
   void Wire();
 
@@ -18,6 +26,8 @@ class Frequencies {
   void DueToAppearMainWindow(bool show_text);
   void Combo11_Click();
   void lblbuttons_MouseDown(int index);
+  // The counts to the wheel window, whatever they are.
+  void MakeWheel();
   // Sets the scale of all bars to the highest count, once three balls are ranked.
   void ScaleStep();
   // The window's shared working texts to their first state.
@@ -31,6 +41,7 @@ class Frequencies {
 
   store::Workplace place_;
   Graph& graph_;
+  Neighbours& neighbours_;
 };
 
 }  // namespace scan

@@ -14,6 +14,8 @@
 #include "base/language/text.h"
 #include "base/language/text_order.h"
 #include "script/wrong_script.h"
+#include "wheels/hit_check.h"
+#include "wheels/wheel_lines.h"
 
 namespace script {
 namespace {
@@ -76,6 +78,26 @@ std::string ProfileText(const Call& call) {
   return base::ReadIniString(files, call.Text(0), call.Text(1), path);
 }
 
+wheels::WheelWizard& OpenWheels(const Call& call) {
+  wheels::WheelWizard* const window = call.On().Desk().Wheels();
+  if (window == nullptr || !window->Loaded()) throw WrongScript("FrmTxt is not open");
+  return *window;
+}
+
+Json Hits(const Call& call) {
+  OpenWheels(call).HitCheck().GetHits(base::ToInt16(call.Number(0)));
+  const wheels::WheelState& state = call.On().Desk().WheelState();
+  return {{"HitPosition", TextJson(state.hit_position)},
+          {"HitNumbers", TextJson(state.hit_numbers)},
+          {"TotalHits", state.total_hits}};
+}
+
+Json CheckForDuplicates(const Call& call) {
+  OpenWheels(call).NumberBoxes().CheckForDuplicates(base::ToInt16(call.Number(0)),
+                                                    base::ToInt16(call.Number(1)));
+  return nullptr;
+}
+
 float ToFloat(double number) {
   if (std::fabs(number) > std::numeric_limits<float>::max()) throw base::Error(base::kOverflow);
   return static_cast<float>(number);
@@ -87,6 +109,22 @@ const std::vector<Function>& Functions() {
       {"StripLetters", 1, [](const Call& c) { return TextJson(store::StripLetters(c.Text(0))); }},
       {"StripSymbols", 1, [](const Call& c) { return TextJson(store::StripSymbols(c.Text(0))); }},
       {"StripControls", 1, [](const Call& c) { return TextJson(store::StripControls(c.Text(0))); }},
+      {"ReplCrap", 1, [](const Call& c) { return TextJson(wheels::ReplCrap(c.Text(0))); }},
+      {"SortValues", 1, [](const Call& c) { return TextJson(wheels::SortValues(c.Text(0))); }},
+      {"AddToLenght", 1, [](const Call& c) { return TextJson(wheels::AddToLenght(c.Text(0))); }},
+      {"dolenth", 1,
+       [](const Call& c) { return TextJson(wheels::dolenth(base::ToInt16(c.Number(0)))); }},
+      {"doSl", 1, [](const Call& c) { return TextJson(wheels::doSl(c.Text(0))); }},
+      {"ConvertToUserNumbers", 1,
+       [](const Call& c) {
+         return TextJson(OpenWheels(c).Generation().ConvertToUserNumbers(c.Text(0)));
+       }},
+      {"GetCurrentLine", 1,
+       [](const Call& c) {
+         return TextJson(OpenWheels(c).HitCheck().GetCurrentLine(base::ToInt16(c.Number(0))));
+       }},
+      {"GetHits", 1, Hits},
+      {"CheckForDuplicates", 2, CheckForDuplicates},
       {"DrawLine", 1, [](const Call& c) { return TextJson(DrawLineAt(c)); }},
       {"ReadIniString", 3, [](const Call& c) { return TextJson(ProfileText(c)); }},
       {"WeekDayName", 1,

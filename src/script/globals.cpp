@@ -1,6 +1,7 @@
 #include "script/globals.h"
 
 #include <functional>
+#include <span>
 
 #include "base/language/text.h"
 
@@ -8,6 +9,7 @@ namespace script {
 namespace {
 
 using store::Session;
+using wheels::WheelState;
 
 struct Global {
   const char* name;
@@ -60,6 +62,62 @@ Global Colour(const char* name, base::Colour store::BarColours::*member) {
   return {name, [member](const Session& s) { return Json(s.bar_colours.*member); }};
 }
 
+Json TextsJson(std::span<const std::string> texts) {
+  Json array = Json::array();
+  for (const std::string& text : texts) array.push_back(TextJson(text));
+  return array;
+}
+
+// The state of the wheel window.
+struct WheelGlobal {
+  const char* name;
+  std::function<Json(const WheelState&)> value;
+};
+
+template <typename T>
+WheelGlobal WheelNumber(const char* name, T WheelState::*member) {
+  return {name, [member](const WheelState& s) { return Json(static_cast<int>(s.*member)); }};
+}
+
+template <typename T>
+WheelGlobal WheelNumbers(const char* name, T WheelState::*member) {
+  return {name, [member](const WheelState& s) { return NumbersJson(s.*member); }};
+}
+
+WheelGlobal WheelText(const char* name, std::string WheelState::*member) {
+  return {name, [member](const WheelState& s) { return TextJson(s.*member); }};
+}
+
+template <typename T>
+WheelGlobal WheelTexts(const char* name, T WheelState::*member) {
+  return {name, [member](const WheelState& s) { return TextsJson(s.*member); }};
+}
+
+const std::vector<WheelGlobal>& WheelGlobals() {
+  static const std::vector<WheelGlobal> globals{
+      WheelNumber("WheelPool", &WheelState::wheel_pool),
+      WheelNumber("WheelPick", &WheelState::wheel_pick),
+      WheelNumber("WheelMatch", &WheelState::wheel_match),
+      WheelNumber("WheelCombos", &WheelState::wheel_combos),
+      WheelNumber("WheelTickets", &WheelState::wheel_tickets),
+      WheelText("WheelName", &WheelState::wheel_name),
+      WheelText("WheelIniPath", &WheelState::wheel_ini_path),
+      WheelNumber("ColdCount", &WheelState::cold_count),
+      WheelNumber("WarmTop", &WheelState::warm_top),
+      WheelTexts("UserNumbers", &WheelState::user_numbers),
+      WheelNumber("WizardStep", &WheelState::wizard_step),
+      WheelNumbers("CheckNumbers", &WheelState::check_numbers),
+      WheelNumbers("LineNumbers", &WheelState::line_numbers),
+      WheelNumbers("ColumnHits", &WheelState::column_hits),
+      WheelTexts("ColumnHitText", &WheelState::column_hit_text),
+      WheelText("WinNumbers", &WheelState::win_numbers),
+      WheelText("HitPosition", &WheelState::hit_position),
+      WheelText("HitNumbers", &WheelState::hit_numbers),
+      WheelNumber("TotalHits", &WheelState::total_hits),
+  };
+  return globals;
+}
+
 const std::vector<Global>& Globals() {
   static const std::vector<Global> globals{
       {"CurrentDraw", [](const Session& s) { return RecordJson(s.current_draw); }},
@@ -73,6 +131,7 @@ const std::vector<Global>& Globals() {
       Flag("DataBaseChanged", &Session::data_base_changed),
       Number("CurrentDrawNumber", &Session::current_draw_number),
       Flag("MainWindowLoaded", &Session::main_window_loaded),
+      Flag("FrmTxtLoaded", &Session::frm_txt_loaded),
       Array("CurrentBalls", &Session::current_balls),
       Text("ShownDay", &Session::shown_day),
       Text("ShownDate", &Session::shown_date),
@@ -104,9 +163,12 @@ const std::vector<Global>& Globals() {
 
 }  // namespace
 
-std::optional<Json> GlobalJson(const Session& session, std::string_view name) {
+std::optional<Json> GlobalJson(shell::Desk& desk, std::string_view name) {
   for (const Global& global : Globals()) {
-    if (base::EqualNoCase(global.name, name)) return global.value(session);
+    if (base::EqualNoCase(global.name, name)) return global.value(desk.Session());
+  }
+  for (const WheelGlobal& global : WheelGlobals()) {
+    if (base::EqualNoCase(global.name, name)) return global.value(desk.WheelState());
   }
   return std::nullopt;
 }

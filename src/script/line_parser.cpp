@@ -3,6 +3,7 @@
 #include <charconv>
 #include <nlohmann/json.hpp>
 
+#include "base/language/text.h"
 #include "script/wrong_script.h"
 
 namespace script {
@@ -12,11 +13,7 @@ constexpr std::string_view kBlanks = " \t\r";
 
 bool IsBlank(char c) { return kBlanks.find(c) != std::string_view::npos; }
 
-std::string_view Trim(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
+std::string_view Trim(std::string_view text) { return base::Trim(text, kBlanks); }
 
 // The length of the JSON string that a text begins with, quotes included.
 std::size_t QuotedLength(std::string_view text) {

@@ -144,7 +144,7 @@ Json Beeps(Stage& stage, const Arguments& words) {
 
 Json Global(Stage& stage, const Arguments& words) {
   words.Demand(1);
-  std::optional<Json> value = GlobalJson(stage.Desk().Session(), words.Text(0));
+  std::optional<Json> value = GlobalJson(stage.Desk(), words.Text(0));
   if (!value) throw WrongScript("no shared state is called " + words.At(0).text);
   return std::move(*value);
 }

@@ -7,6 +7,7 @@
 #include "shell/frame.h"
 #include "shell/main_window_subjects.h"
 #include "shell/splash.h"
+#include "wheels/number_sets.h"
 
 namespace shell {
 namespace {
@@ -55,7 +56,9 @@ struct FrameWindow : FrmMain {
 
 }  // namespace
 
-class Desk::Parts : public Frame::Windows, public MainWindowSubjects::FrameSide {
+class Desk::Parts : public Frame::Windows,
+                    public MainWindowSubjects::FrameSide,
+                    public wheels::WheelWizard::FrameSide {
  public:
   Parts(base::Ports ports, std::string program_folder)
       : desktop(ports),
@@ -72,7 +75,10 @@ class Desk::Parts : public Frame::Windows, public MainWindowSubjects::FrameSide 
         }),
         options([this] { return std::make_shared<OptionsWindow>(desktop, session); }),
         about([this] { return std::make_shared<AboutWindow>(desktop, Version{}); }),
-        selector([this] { return std::make_shared<BallSelectorWindow>(session); }) {
+        selector([this] { return std::make_shared<BallSelectorWindow>(session); }),
+        wheel([this] {
+          return std::make_shared<wheels::WheelWizard>(session, desktop, wheel_state, *this);
+        }) {
     session.program_folder = std::move(program_folder);
     desktop.on_closed = [this](base::Form& form) { Release(form); };
   }
@@ -87,12 +93,14 @@ class Desk::Parts : public Frame::Windows, public MainWindowSubjects::FrameSide 
   base::WindowSlot<OptionsWindow> options;
   base::WindowSlot<AboutWindow> about;
   base::WindowSlot<BallSelectorWindow> selector;
+  wheels::WheelState wheel_state;
+  base::WindowSlot<wheels::WheelWizard> wheel;
 
  private:
   void Release(base::Form& form) {
     splash.Release(form, desktop) || frame.Release(form, desktop) || main.Release(form, desktop) ||
         options.Release(form, desktop) || about.Release(form, desktop) ||
-        selector.Release(form, desktop);
+        selector.Release(form, desktop) || wheel.Release(form, desktop);
   }
 
   // What the frame asks for.
@@ -107,6 +115,14 @@ class Desk::Parts : public Frame::Windows, public MainWindowSubjects::FrameSide 
     if (MainWindowSubjects* window = main.Peek()) window->Browsing().FillFromListView();
   }
 
+  void MakeWheel() override {
+    if (MainWindowSubjects* window = main.Peek()) {
+      window->Frequencies().MakeWheel();
+    } else {
+      wheel.Get().TakeOver({});
+    }
+  }
+  void ShowWheelWindow() override { wheel.Get().ShowAlone(); }
   void ShowBallSelector() override { desktop.Show(selector.Get()); }
   void StandardDeviation() override {
     if (MainWindowSubjects* window = main.Peek()) window->GraphOptions().StandardDeviation();
@@ -121,8 +137,12 @@ class Desk::Parts : public Frame::Windows, public MainWindowSubjects::FrameSide 
   // What the main window asks of the frame.
   void SaveMenus() override { frame.Get().procedures.SaveMenus(); }
   void PopUpGraphMenu() override { desktop.View().PopUp(frame.Get().MnuGraph); }
+  void HandOverToWheels() override {
+    wheel.Get().TakeOver(wheels::TemperatureEntries(main.Get().ProgressBar1));
+  }
   void DoMenus() override { frame.Get().procedures.DoMenus(); }
   void MarkMainWindow(bool in_use) override { frame.Get().procedures.MarkMainWindow(in_use); }
+  void MarkWheelWindow(bool in_use) override { frame.Get().procedures.MarkWheelWindow(in_use); }
   void ShowStatus(const std::string& text) override { frame.Get().lblStatus.SetCaption(text); }
   void SetHelpFile(const std::string& path) override { frame.Get().procedures.SetHelpFile(path); }
 };
@@ -157,5 +177,7 @@ base::Form* Desk::Find(std::string_view name) {
 
 FrmMain* Desk::Frame() { return parts_->frame.Peek(); }
 store::MainWindow* Desk::Main() { return parts_->main.Peek(); }
+wheels::WheelWizard* Desk::Wheels() { return parts_->wheel.Peek(); }
+const wheels::WheelState& Desk::WheelState() const { return parts_->wheel_state; }
 
 }  // namespace shell

@@ -10,6 +10,7 @@
 #include "shell/small_windows.h"
 #include "store/main_window.h"
 #include "store/session.h"
+#include "wheels/wheel_wizard.h"
 
 namespace shell {
 
@@ -38,6 +39,9 @@ class Desk {
   // The instances that views are made for; null while they do not exist.
   FrmMain* Frame();
   store::MainWindow* Main();
+  wheels::WheelWizard* Wheels();
+  // What the wheel window holds, or held when it was last open.
+  const wheels::WheelState& WheelState() const;
 
  private:
   class Parts;

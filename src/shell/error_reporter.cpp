@@ -2,6 +2,7 @@
 
 #include <cerrno>
 
+#include "base/deployment.h"
 #include "base/language/dates.h"
 #include "base/language/numbers.h"
 #include "shell/preferences.h"
@@ -10,7 +11,6 @@
 namespace shell {
 namespace {
 
-constexpr const char* kSupportAddress = "support@quorbit.example";
 constexpr const char* kErrorSource = "QND";
 
 // Only errors of files come from the host and have a system error behind them.
@@ -62,7 +62,7 @@ void DeskErrorReporter::Mail(const ErrorReport& report) {
   const std::string now = base::FormatDate(ports_.clock.Now(), "DD/MM/YYYY HH:NN:SS");
   const std::string database = ports_.settings.Get(store::kDeskApplication, store::kDataSection,
                                                    store::kDataBaseNameKey, "Not Found!");
-  ports_.mail.Send({.recipient = kSupportAddress,
+  ports_.mail.Send({.recipient = base::kSupportAddress,
                     .subject = "QND ERROR - " + report.title + " - Date " + now,
                     .body = ErrorDetails(report) + "Version [" + VersionText(version_) +
                             "] \r\n"

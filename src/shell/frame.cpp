@@ -17,6 +17,7 @@ using Style = scan::GraphOptions::Style;
 constexpr std::string_view kPlaceSection = "Settings";
 constexpr base::Colour kMarked = 0xE0E0E0;
 constexpr base::Colour kCleared = 0xC0C0C0;
+constexpr base::Colour kClearedTool = 0x80000003;
 
 const base::MessageBox kNoHelp{
     .text = "Unable to display Help Contents. There is no Help associated with this project."};
@@ -45,6 +46,8 @@ void Frame::Wire() {
       trapped("MnuRWC_Click", [this] { StyleMenu_Click(window_.MnuRWC, Style::kColdWarmHot); });
   window_.MnuHC.on.click =
       trapped("MnuHC_Click", [this] { StyleMenu_Click(window_.MnuHC, Style::kColdHot); });
+  window_.MnuWheel.on.click = [this] { windows_.MakeWheel(); };
+  window_.Label5.on.click = [this] { windows_.ShowWheelWindow(); };
   window_.MnuStdDev.on.click = [this] { windows_.StandardDeviation(); };
   window_.MnuNumberSelector.on.click =
       trapped("MnuNumberSelector_Click", [this] { windows_.ShowBallSelector(); });
@@ -153,6 +156,11 @@ void Frame::StyleMenu_Click(base::MenuItem& item, Style style) {
 void Frame::MarkMainWindow(bool in_use) {
   window_.Command17.SetBackColor(in_use ? kMarked : kCleared);
   window_.Command17.SetEnabled(in_use);
+}
+
+void Frame::MarkWheelWindow(bool in_use) {
+  window_.Label5.SetBackColor(in_use ? kMarked : kClearedTool);
+  window_.Label5.SetEnabled(in_use);
 }
 
 void Frame::ShowHelp(base::HelpPage page) {

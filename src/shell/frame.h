@@ -24,6 +24,9 @@ class Frame {
     // nothing happens.
     virtual void FillFromListView() = 0;
     virtual void ShowBallSelector() = 0;
+    // The menu entry hands the counts of the scan over, the tool label only shows the window.
+    virtual void MakeWheel() = 0;
+    virtual void ShowWheelWindow() = 0;
     virtual void StandardDeviation() = 0;
     // True once the graph's choices have been filled, which the first use of them does.
     virtual bool GraphStylesFilled() = 0;
@@ -48,6 +51,7 @@ class Frame {
   // Stores the four ticks, and sets the flags from them.
   void SaveMenus();
   void MarkMainWindow(bool in_use);
+  void MarkWheelWindow(bool in_use);
   void SetHelpFile(std::string path) { help_file_ = std::move(path); }
 
  private:

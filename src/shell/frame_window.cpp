@@ -58,8 +58,7 @@ FrmMain::FrmMain() : Form("frmMain", base::FormRole::kFrame) {
   // What leads to a window that this version does not have.
   for (base::Control* later : std::initializer_list<base::Control*>{
            &MnuStatsWin, &MnuSortedWindow, &MnuPrintWindow, &MnuDatabasewindow, &MnuLiveUpdate,
-           &MnuImportDraw, &MnuLoad, &MnuWheel, &MnuForum, &Label1, &Label2, &Label3, &Label4,
-           &Label5}) {
+           &MnuImportDraw, &MnuLoad, &MnuForum, &Label1, &Label2, &Label3, &Label4}) {
     later->SetEnabled(false);
   }
   for (base::Label* tool : {&Label1, &Label2, &Label3, &Label4, &Label5}) {

@@ -8,7 +8,7 @@ MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& d
       frame_(frame),
       counts_(place_),
       graph_(place_),
-      frequencies_(place_, graph_),
+      frequencies_(place_, graph_, frame),
       loading_side_(frame, graph_),
       browsing_(place_, *this),
       entry_(place_, browsing_, *this),

@@ -23,7 +23,7 @@ class MainWindowSubjects : public store::MainWindow,
                            private store::Entry::Neighbours {
  public:
   // `frame` is what loading asks of the frame; everything must outlive the window.
-  class FrameSide : public scan::GraphOptions::Neighbours {
+  class FrameSide : public scan::GraphOptions::Neighbours, public scan::Frequencies::Neighbours {
    public:
     virtual void DoMenus() = 0;
     virtual void MarkMainWindow(bool in_use) = 0;
@@ -36,6 +36,7 @@ class MainWindowSubjects : public store::MainWindow,
 
   store::Browsing& Browsing() { return browsing_; }
   scan::GraphOptions& GraphOptions() { return graph_options_; }
+  scan::Frequencies& Frequencies() { return frequencies_; }
   store::WorkingCopy& WorkingCopy() { return working_copy_; }
 
   void Form_Load();

@@ -12,16 +12,10 @@ constexpr std::string_view kSymbols = "[]{}\xA3$!%^&*()+-=";
 constexpr std::size_t kFewestParts = 3;
 constexpr std::size_t kShortestDate = 7;
 
-std::string Trim(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
-}
-
 // Four, then three, then two blanks become one, one pass each.
 std::string ShortenBlanks(std::string text) {
   for (const char* blanks : {"    ", "   ", "  "}) text = base::ReplaceAll(text, blanks, " ");
-  return Trim(text);
+  return std::string(base::Trim(text));
 }
 
 std::vector<std::string> Parts(std::string_view line) {

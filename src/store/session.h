@@ -74,6 +74,7 @@ struct Session {
 
   // Which windows are open.
   bool main_window_loaded = false;
+  bool frm_txt_loaded = false;
 
   std::int16_t loop_i = 0;
   std::int16_t loop_j = 0;

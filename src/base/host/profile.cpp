@@ -9,11 +9,7 @@ namespace {
 constexpr std::size_t kLongestValue = 254;
 constexpr std::string_view kBlanks = " \t\r\v\f";
 
-std::string_view Trim(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
+std::string_view TrimBlanks(std::string_view text) { return Trim(text, kBlanks); }
 
 std::string_view WithoutQuotes(std::string_view value) {
   const bool quoted = value.size() >= 2 && (value.front() == '"' || value.front() == '\'') &&
@@ -25,7 +21,7 @@ std::string_view WithoutQuotes(std::string_view value) {
 bool ReadHeading(std::string_view line, std::string_view& name) {
   if (line.empty() || line.front() != '[') return false;
   const std::size_t end = line.find(']');
-  name = Trim(line.substr(1, end == std::string_view::npos ? end : end - 1));
+  name = TrimBlanks(line.substr(1, end == std::string_view::npos ? end : end - 1));
   return true;
 }
 
@@ -45,7 +41,7 @@ void Profile::ReadAll(std::string_view text) {
   Values* section = nullptr;
   while (!text.empty()) {
     const std::size_t end = text.find('\n');
-    const std::string_view line = Trim(text.substr(0, end));
+    const std::string_view line = TrimBlanks(text.substr(0, end));
     text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
     std::string_view heading;
     if (ReadHeading(line, heading)) {
@@ -56,8 +52,8 @@ void Profile::ReadAll(std::string_view text) {
     if (section == nullptr || line.empty() || line.front() == ';') continue;
     const std::size_t equals = line.find('=');
     if (equals == std::string_view::npos) continue;
-    const std::string_view value = WithoutQuotes(Trim(line.substr(equals + 1)));
-    section->try_emplace(Lower(Trim(line.substr(0, equals))), value.substr(0, kLongestValue));
+    const std::string_view value = WithoutQuotes(TrimBlanks(line.substr(equals + 1)));
+    section->try_emplace(Lower(TrimBlanks(line.substr(0, equals))), value.substr(0, kLongestValue));
   }
 }
 

@@ -80,6 +80,12 @@ std::string Mid(std::string_view text, std::size_t start, std::size_t n) {
   return std::string(text.substr(start - 1, n));
 }
 
+std::string_view Trim(std::string_view text, std::string_view blanks) {
+  const std::size_t first = text.find_first_not_of(blanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
 std::string Lower(std::string_view text) { return Mapped(text, kLower); }
 std::string Upper(std::string_view text) { return Mapped(text, kUpper); }
 

@@ -20,6 +20,9 @@ std::string Right(std::string_view text, std::size_t n);
 // kInvalidCall for place 0.
 std::string Mid(std::string_view text, std::size_t start, std::size_t n);
 
+// Without the blanks at both ends; `blanks` are the characters that count as such.
+std::string_view Trim(std::string_view text, std::string_view blanks = " ");
+
 // Accented letters change too; letters without a partner in Windows-1252 stay.
 std::string Lower(std::string_view text);
 std::string Upper(std::string_view text);

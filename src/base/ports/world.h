@@ -32,10 +32,10 @@ class Beeper {
 
 // One hand-over of a file or address to the platform's shell.
 struct ShellOpenRequest {
-  std::string verb;
-  std::string file;
-  std::string parameters;
-  std::string folder;
+  std::string verb{};
+  std::string file{};
+  std::string parameters{};
+  std::string folder{};
   int show = 1;  // 0 hidden, 1 normal
 };
 
