@@ -17,6 +17,7 @@
 #include "ui/windows/message_dialog.h"
 #include "ui/windows/options_view.h"
 #include "ui/windows/splash_view.h"
+#include "ui/windows/wheel_view.h"
 
 namespace ui {
 namespace {
@@ -85,6 +86,9 @@ QWidget* App::MakeView(base::Form& form) {
   }
   if (auto* const selector = dynamic_cast<scan::FrmDropDown*>(&form)) {
     return new BallSelectorView(desk_, *selector, nullptr);
+  }
+  if (auto* const wheel = dynamic_cast<wheels::FrmTxt*>(&form)) {
+    return new WheelView(desk_, *wheel, nullptr);
   }
   if (auto* const splash = dynamic_cast<shell::FrmSplash*>(&form)) {
     return new SplashView(desk_, *splash, owner);

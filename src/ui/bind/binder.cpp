@@ -224,6 +224,8 @@ void Binder::MouseOn(QWidget* widget, base::Control& control, const QMouseEvent&
   } else if (!press && control.on.mouse_up) {
     Act([&](base::User& user) { user.Release(control, button); });
   }
+  const bool clicked = !press && left && qobject_cast<QLineEdit*>(widget) && control.on.click;
+  if (clicked && form_) Act([&](base::User&) { desk_.Desktop().Dispatch(control.on.click); });
 }
 
 }  // namespace ui

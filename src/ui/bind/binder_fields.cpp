@@ -128,6 +128,17 @@ void Binder::InsertInto(QLineEdit* edit, base::TextBox& box, char key) {
   const int start = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
   const int length = static_cast<int>(edit->selectedText().size());
   const int code = static_cast<unsigned char>(key);
+  if (length == before.size()) {
+    // Typed over all that stood there: the key finds an empty box, and one that it is refused by
+    // keeps its text.
+    const std::string all = box.Text();
+    ActOn(box, [&](base::User& user) { user.EditText(box, ""); });
+    if (form_) TypeInto(edit, box, key);
+    if (form_ && box.Text().empty()) {
+      ActOn(box, [&](base::User& user) { user.EditText(box, all); });
+    }
+    return;
+  }
   ActOn(box, [&](base::User& user) {
     base::Desktop& desktop = desk_.Desktop();
     desktop.Dispatch([&] {
@@ -139,6 +150,7 @@ void Binder::InsertInto(QLineEdit* edit, base::TextBox& box, char key) {
       user.EditText(box, Typed(before.left(start) + middle + before.mid(start + length)));
     }
     desktop.Dispatch([&] {
+      desktop.TakeSentTabs();
       base::Control* const now = desktop.Focused();
       if (now && now->on.key_up) now->on.key_up(code);
     });

@@ -1,5 +1,7 @@
 #include "ui/bind/list_models.h"
 
+#include <QMimeData>
+
 #include "ui/bind/binder.h"
 
 namespace ui {
@@ -49,10 +51,27 @@ QVariant TableRows::data(const QModelIndex& index, int role) const {
 }
 
 QVariant TableRows::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (!table_ || orientation == Qt::Vertical || role != Qt::DisplayRole) return {};
+  if (!table_ || role != Qt::DisplayRole) return {};
+  if (orientation == Qt::Vertical) {
+    return QStringLiteral("%1").arg(section + 1, 3, 10, QLatin1Char('0'));
+  }
   const auto& headers = table_->Headers();
   const auto column = static_cast<std::size_t>(section);
   return column < headers.size() ? Shown(headers[column]) : QString();
+}
+
+Qt::ItemFlags TableRows::flags(const QModelIndex& index) const {
+  return QAbstractTableModel::flags(index) | Qt::ItemIsDragEnabled;
+}
+
+QStringList TableRows::mimeTypes() const { return {QStringLiteral("text/plain")}; }
+
+QMimeData* TableRows::mimeData(const QModelIndexList& indexes) const {
+  QStringList cells;
+  for (const QModelIndex& index : indexes) cells << data(index, Qt::DisplayRole).toString();
+  auto* const dragged = new QMimeData;
+  dragged->setText(cells.join(QLatin1Char(' ')));
+  return dragged;
 }
 
 bool TableRows::Refresh() {

@@ -18,6 +18,7 @@
 #include "ui/theme/theme.h"
 #include "ui/windows/help_view.h"
 #include "ui/windows/message_dialog.h"
+#include "wheels/wheel_window.h"
 
 namespace {
 
@@ -26,6 +27,14 @@ constexpr int kSettle = 250;  // milliseconds for the bars to come to rest
 constexpr QSize kFrame(1200, 820);  // the frame's first size
 
 QDir pictures;
+
+// The palette that the pictures are made in.
+struct Palette {
+  const char* suffix;  // of the pictures' names
+  const char* setting;
+};
+constexpr Palette kPalettes[] = {{"", ""}, {"-dark", "Quorbit Number Desk|Settings|Theme=Dark\n"}};
+const Palette* palette = nullptr;
 
 void Settle() {
   QEventLoop loop;
@@ -36,7 +45,8 @@ void Settle() {
 void Keep(QWidget* widget, const char* name) {
   ui::Binder::SyncAll();
   QCoreApplication::processEvents();
-  const QString file = pictures.filePath(QLatin1String(name) + QStringLiteral(".png"));
+  const QString file = pictures.filePath(QLatin1String(name) + QLatin1String(palette->suffix) +
+                                         QStringLiteral(".png"));
   std::printf("%s\n", qPrintable(file));
   if (!widget || !widget->grab().save(file)) std::printf("  could not be made\n");
 }
@@ -47,7 +57,7 @@ class Scene {
   Scene(const QString& data, const QByteArray& settings) {
     shell::DeliverFiles(data.toStdString(), home_.path().toStdString());
     QFile file(home_.filePath(QStringLiteral("settings.txt")));
-    if (file.open(QIODevice::WriteOnly)) file.write(settings);
+    if (file.open(QIODevice::WriteOnly)) file.write(settings + palette->setting);
     file.close();
     app_ = std::make_unique<ui::App>(home_.path().toStdString(), file.fileName().toStdString());
     app_->Start();
@@ -158,10 +168,31 @@ void MakeBallSelector(const QString& data) {
   scene.KeepFrame("ball-selector");
 }
 
-void MakeDark(const QString& data) {
-  Scene scene(data, QByteArray(kStart) + "Quorbit Number Desk|Settings|Theme=Dark\n");
-  scene.User().Click(scene.Main().CmdScan);
-  scene.KeepFrame("main-dark");
+// The road from a scan to the wheel, step by step.
+void MakeWheels(const QString& data) {
+  Scene scene(data, kStart);
+  base::User& user = scene.User();
+  user.Click(scene.Main().CmdScan);
+  user.Click(scene.Main().lblbuttons(2));
+  auto& wheel = static_cast<wheels::FrmTxt&>(scene.Window("FrmTxt"));
+  scene.KeepFrame("wheel-start");
+  user.Click(wheel.Label11(1));
+  user.Click(wheel.cmdwizardp(0));
+  user.Pick(wheel.List2, 5);
+  scene.KeepFrame("wheel-chosen");
+  user.Pick(wheel.List1, 6);
+  user.Click(wheel.cmdwizar(1));
+  scene.KeepFrame("wheel-numbers");
+  user.Click(wheel.cmdwizard(0));
+  user.Click(wheel.cmdwizard(1));
+  scene.KeepFrame("wheel-made");
+  user.DoubleClick(wheel.TXTActiveNumbers(2));
+  user.Click(wheel.TXTActiveNumbers(2));
+  scene.KeepFrame("wheel-quick-numbers");
+  user.Click(wheel.Label8);
+  user.Pick(wheel.List2, wheel.List2.ListCount() - 1);
+  user.Click(wheel.cmdwizard(1));
+  scene.KeepFrame("wheel-largest");
 }
 
 }  // namespace
@@ -177,10 +208,13 @@ int main(int argc, char** argv) {
   pictures = QDir(QString::fromLocal8Bit(argv[2]));
   pictures.mkpath(QStringLiteral("."));
   ui::Theme::Current();
-  MakeSplash(data);
-  MakeMainWindow(data);
-  MakeDialogs(data);
-  MakeBallSelector(data);
-  MakeDark(data);
+  for (const Palette& each : kPalettes) {
+    palette = &each;
+    MakeSplash(data);
+    MakeMainWindow(data);
+    MakeDialogs(data);
+    MakeBallSelector(data);
+    MakeWheels(data);
+  }
   return 0;
 }

@@ -52,6 +52,9 @@ QPushButton[accent="true"]:disabled { background: @track; color: @faint; border-
 QPushButton[flat="true"] { background: transparent; border-color: transparent; }
 QPushButton[flat="true"]:hover { background: @selection; }
 QPushButton[flat="true"]:focus { border-color: @accent; }
+QPushButton[link="true"] { padding: 6px 12px; }
+QPushButton[link="true"][lit="true"] { background: @lit; border-color: @bonus; color: @text;
+  font-weight: 600; }
 QPushButton[joined="true"] { border-radius: 0px; padding: 7px 8px; }
 QPushButton[tab="true"] { background: transparent; border: none; border-radius: 0px;
   border-bottom: 2px solid transparent; padding: 9px 12px; color: @dim; }
@@ -150,6 +153,8 @@ QString MakeStyleSheet(const Theme& theme) {
       {"@side", colour(Role::kSide).name()},
       {"@text", colour(Role::kText).name()},
       {"@line", colour(Role::kLine).name()},
+      {"@lit", colour(Role::kShown).name()},
+      {"@bonus", colour(Role::kBonus).name()},
       {"@mode", theme.Dark() ? QStringLiteral("dark") : QStringLiteral("light")},
       {"@px11", pixels(11)},
       {"@px14", pixels(14)},

@@ -2,7 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPainter>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -23,8 +23,6 @@ constexpr int kBallSize = 46;
 constexpr int kBallPerText = 34;  // what a ball needs at the text size chosen
 constexpr int kFieldPadding = 22;
 constexpr int kIconSize = 18;
-constexpr double kRing = 2;
-constexpr double kFaded = 0.4;
 
 int BallSize() { return std::max(kBallSize, Theme::Current().Scaled(kBallPerText)); }
 
@@ -36,52 +34,6 @@ QLabel* MakeCaption(QWidget* parent, Qt::Alignment alignment) {
 }
 
 }  // namespace
-
-// --- A ball
-
-BallField::BallField(Kind kind, QWidget* parent) : QLineEdit(parent), kind_(kind) {
-  setAlignment(Qt::AlignCenter);
-  setFrame(false);
-  SetEditing(false);
-}
-
-void BallField::SetSize(int size) {
-  setFont(Theme::Current().BallFont());
-  setStyleSheet(QStringLiteral("QLineEdit { background: transparent; border: none; padding: 0px; "
-                               "min-width: %1px; max-width: %1px; "
-                               "min-height: %1px; max-height: %1px; }")
-                    .arg(size));
-}
-
-void BallField::SetEditing(bool editing) {
-  setReadOnly(!editing);
-  setFocusPolicy(editing ? Qt::StrongFocus : Qt::NoFocus);
-  setCursor(editing ? Qt::IBeamCursor : Qt::ArrowCursor);
-  update();
-}
-
-void BallField::paintEvent(QPaintEvent* event) {
-  const Theme& theme = Theme::Current();
-  const bool editing = !isReadOnly() && isEnabled();
-  {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (!isEnabled() && text().toInt() == 0) painter.setOpacity(kFaded);
-    const Role ring = hasFocus() || !editing ? Role::kAccent : Role::kLine;
-    painter.setPen(QPen(theme.Colour(kind_ == Kind::kBonus ? Role::kBonus : ring),
-                        hasFocus() ? kRing + 1 : kRing));
-    painter.setBrush(theme.Colour(editing ? Role::kTrack : Role::kCard));
-    painter.drawEllipse(QRectF(rect()).adjusted(kRing, kRing, -kRing, -kRing));
-    if (!editing) {
-      painter.setPen(theme.Colour(Role::kText));
-      painter.setFont(font());
-      painter.drawText(rect(), Qt::AlignCenter, text());
-    }
-  }
-  if (editing) QLineEdit::paintEvent(event);
-}
-
-// --- The card
 
 DrawHeader::DrawHeader(Binder& binder, store::MainWindow& window, QWidget* parent)
     : QFrame(parent), window_(&window) {

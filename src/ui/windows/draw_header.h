@@ -1,35 +1,17 @@
 #pragma once
 
 #include <QFrame>
-#include <QLineEdit>
 #include <functional>
 #include <vector>
 
 #include "store/main_window.h"
 #include "ui/bind/binder.h"
+#include "ui/windows/ball_field.h"
 
 class QBoxLayout;
+class QLineEdit;
 
 namespace ui {
-
-// A ball that is a field: a ring around a number, and the place to type it while editing.
-class BallField : public QLineEdit {
- public:
-  enum class Kind { kMain, kBonus };
-
-  BallField(Kind kind, QWidget* parent);
-
-  // Takes the font of the theme; the size in logical pixels.
-  void SetSize(int size);
-  // While a field is not edited it shows its number only, and the Tab key passes over it.
-  void SetEditing(bool editing);
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
-
- private:
-  const Kind kind_;
-};
 
 // The draw on show with what browses and edits it.
 class DrawHeader : public QFrame {

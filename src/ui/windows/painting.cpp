@@ -9,6 +9,8 @@ namespace {
 
 constexpr double kReadable = 4.5;
 constexpr int kSteps = 20;
+constexpr double kSignPart = 0.09;    // of the ball
+constexpr double kSignHeight = 0.14;  // above the ball's foot
 
 double Linear(double channel) {
   return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
@@ -52,6 +54,16 @@ void PaintBall(QPainter& painter, const QRectF& place, const QString& number, Ro
   painter.drawEllipse(place);
   painter.setPen(theme.Colour(Role::kOnBand));
   painter.drawText(place, Qt::AlignCenter, number);
+}
+
+void PaintBandSign(QPainter& painter, const QRectF& ball, Role band) {
+  if (band != Role::kCold && band != Role::kHot) return;
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(Theme::Current().Colour(Role::kOnBand));
+  const double dot = std::max(3.0, ball.height() * kSignPart);
+  QRectF sign(0, 0, band == Role::kHot ? dot : 3 * dot, band == Role::kHot ? dot : dot / 2);
+  sign.moveCenter({ball.center().x(), ball.bottom() - ball.height() * kSignHeight});
+  painter.drawRoundedRect(sign, sign.height() / 2, sign.height() / 2);
 }
 
 }  // namespace ui

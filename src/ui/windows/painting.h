@@ -21,4 +21,8 @@ QColor ReadableOn(Role ground, Role role);
 // A ball filled with the colour of a band, its number in the middle.
 void PaintBall(QPainter& painter, const QRectF& place, const QString& number, Role band);
 
+// The sign by which a ball of a band is told without its colour: a dash below the number for cold,
+// a dot for hot, none for warm.
+void PaintBandSign(QPainter& painter, const QRectF& ball, Role band);
+
 }  // namespace ui

@@ -18,6 +18,7 @@ constexpr double kDisabledOpacity = 0.72;
 constexpr int kWordFlags =
     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap | Qt::TextHideMnemonic;
 const char* const kLater = "Not in this version";
+const char* const kByMakeWheel = "Make Wheel opens the wheels again";
 
 }  // namespace
 
@@ -98,17 +99,21 @@ SideBar::SideBar(shell::FrmMain& frame, Binder& binder, QWidget* parent) : QFram
   binder.Bind(main, frame.Command17);
   binder.Watch(frame.Command17,
                [main, &frame] { main->SetMarked(frame.Command17.BackColor() == kMarkedTool); });
-  const std::pair<base::Label*, const char*> tools[] = {{&frame.Label1, "statistics"},
-                                                        {&frame.Label2, "sorted"},
-                                                        {&frame.Label3, "reports"},
-                                                        {&frame.Label4, "database"},
-                                                        {&frame.Label5, "wheels"}};
-  for (const auto& [label, icon] : tools) {
+  const struct {
+    base::Label* label;
+    const char* icon;
+    const char* why_disabled;
+  } tools[] = {{&frame.Label1, "statistics", kLater},
+               {&frame.Label2, "sorted", kLater},
+               {&frame.Label3, "reports", kLater},
+               {&frame.Label4, "database", kLater},
+               {&frame.Label5, "wheels", kByMakeWheel}};
+  for (const auto& [label, icon, why_disabled] : tools) {
     ToolLabel* const tool = AddTool(icon);
     binder.Bind(tool, *label);
-    binder.Watch(*label, [tool, control = label] {
+    binder.Watch(*label, [tool, control = label, why = why_disabled] {
       tool->SetMarked(control->BackColor() == kMarkedTool);
-      if (!control->Enabled()) tool->setToolTip(QLatin1String(kLater));
+      tool->setToolTip(control->Enabled() ? QString() : QLatin1String(why));
     });
   }
   column->addStretch();
