@@ -142,7 +142,7 @@ TEST(Frame, DisablesWhatLeadsToWindowsThatDoNotExist) {
   TestDesk desk;
   desk.Start();
   EXPECT_THROW(desk.User().Choose(desk.Frame().MnuStatsWin), base::ActRefused);
-  EXPECT_THROW(desk.User().Click(desk.Frame().Label5), base::ActRefused);
+  EXPECT_THROW(desk.User().Click(desk.Frame().Label4), base::ActRefused);
   EXPECT_EQ(desk.Frame().Label1.BackColor(), 0x80000003u);
   EXPECT_EQ(desk.Frame().mnuHelpAbout.Caption(), "&About ");
 }

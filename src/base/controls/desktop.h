@@ -63,6 +63,7 @@ class Desktop {
   void SendTab() { ++tabs_sent_; }
   // Moves the focus on for each Tab asked for.
   void TakeSentTabs();
+  void DropSentTabs() { tabs_sent_ = 0; }
 
   // Runs one event. An Error that no trap takes is shown as a run-time error and ends the event.
   void Dispatch(const std::function<void()>& event);

@@ -128,22 +128,13 @@ void Binder::InsertInto(QLineEdit* edit, base::TextBox& box, char key) {
   const int start = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
   const int length = static_cast<int>(edit->selectedText().size());
   const int code = static_cast<unsigned char>(key);
-  if (length == before.size()) {
-    // Typed over all that stood there: the key finds an empty box, and one that it is refused by
-    // keeps its text.
-    const std::string all = box.Text();
-    ActOn(box, [&](base::User& user) { user.EditText(box, ""); });
-    if (form_) TypeInto(edit, box, key);
-    if (form_ && box.Text().empty()) {
-      ActOn(box, [&](base::User& user) { user.EditText(box, all); });
-    }
-    return;
-  }
   ActOn(box, [&](base::User& user) {
     base::Desktop& desktop = desk_.Desktop();
     desktop.Dispatch([&] {
       if (box.on.key_down) box.on.key_down(code);
       if (box.on.key_press) box.on.key_press(key);
+      // A key that took the place of all that stood there is the first one, not the last.
+      if (length == before.size()) desktop.DropSentTabs();
     });
     if (key != 0 && form_) {
       const QString middle = Shown(std::string(1, key));
