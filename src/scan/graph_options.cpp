@@ -193,8 +193,8 @@ void GraphOptions::GoBack(int steps) {
   ShowMainWindowGraph();
   for (int step = 0; step < steps; ++step) {
     session.ReadDraw(session.current_draw_number - 1);
-    session.draw_count = base::ToInt16(session.current_draw_number - 1);
-    session.current_draw_number = session.draw_count;
+    session.draw_count = base::AddInt16(session.draw_count, -1);
+    session.current_draw_number -= 1;
     place_.Yield();
     browsing_.FillTextMainWindow();
     place_.Yield();
@@ -261,8 +261,9 @@ void GraphOptions::HScroll1_Change() {
     bar.SetWidth(width);
     place_.Yield();
     next.SetLeft(bar.Left() + width - kBarGap);
-    window.Label1(ball + 1).SetLeft(next.Left() + next.Width() / 4);
-    window.Label2(ball + 1).SetLeft(next.Left() + next.Width() / 4);
+    const int label_left = base::ToInt32(next.Left() + next.Width() / 4.0);
+    window.Label1(ball + 1).SetLeft(label_left);
+    window.Label2(ball + 1).SetLeft(label_left);
   }
 }
 

@@ -1,5 +1,7 @@
 #include "scan/winner_scan.h"
 
+#include <algorithm>
+
 #include "base/language/numbers.h"
 #include "scan/line_matches.h"
 #include "store/draw_record.h"
@@ -8,6 +10,7 @@ namespace scan {
 namespace {
 
 constexpr int kPasses = 10;
+constexpr std::size_t kExtraPlace = 7;
 constexpr char kBackspace = 8;
 
 // Brings two boxes into ascending order; an empty box stays behind a filled one.
@@ -35,24 +38,31 @@ void WinnerScan::Labscanwinners_Click() {
   store::Session& session = place_.session;
   store::MainWindow& window = place_.window;
   SortNumbers();
-  std::array<std::uint8_t, LineMatches::kNumbers> numbers{};
-  for (int k = 0; k < LineMatches::kNumbers; ++k) {
-    numbers[static_cast<std::size_t>(k)] = base::ToByte(base::NumericValue(window.Txtb1(k).Text()));
-  }
-  base::ToByte(base::NumericValue(window.Txtb1(LineMatches::kNumbers).Text()));
+  TakeNumbers();
 
   base::TextBox& start = window.TxtStartDrawAt(0);
   if (base::ToDouble(start.Text()) >= window.List7.ListCount() - 1) start.SetText("0");
   if (window.List7.ListCount() == 0) FillLines();
   SelectLine(base::ToInt16(start.Text()));
 
-  LineMatches matches(numbers);
+  std::array<std::uint8_t, LineMatches::kNumbers> line{};
+  std::copy_n(session.match_numbers.begin(), line.size(), line.begin());
+  LineMatches matches(line);
   for (int row = base::ToInt16(start.Text()) - 1; row < window.List7.ListCount(); ++row) {
     SelectLine(row);
     matches.Compare(session.current_balls);
   }
   window.txtpermcheck.SetText(matches.Report());
   if (matches.All(LineMatches::kNumbers) == 1) place_.Ask({.text = "You have won the jackpot!"});
+}
+
+void WinnerScan::TakeNumbers() {
+  const auto number = [this](int box) {
+    return base::ToByte(base::NumericValue(place_.window.Txtb1(box).Text()));
+  };
+  auto& numbers = place_.session.match_numbers;
+  for (int k = 0; k < LineMatches::kNumbers; ++k) numbers[static_cast<std::size_t>(k)] = number(k);
+  numbers[kExtraPlace] = number(LineMatches::kNumbers);
 }
 
 void WinnerScan::SortNumbers() {

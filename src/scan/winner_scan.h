@@ -16,6 +16,7 @@ class WinnerScan {
 
  private:
   void SortNumbers();
+  void TakeNumbers();
   void FillLines();
   void SelectLine(int row);
 

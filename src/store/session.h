@@ -13,6 +13,7 @@ namespace store {
 
 inline constexpr std::size_t kBallCountPlaces = 1501;
 inline constexpr std::size_t kPositionPlaces = 101;
+inline constexpr std::size_t kMatchPlaces = 11;
 
 // The colours of the graph's bands and of the ground behind the bars.
 struct BarColours {
@@ -57,6 +58,8 @@ struct Session {
   std::array<std::array<float, kPositionPlaces>, kBalls> position_hits{};
   std::array<std::array<std::uint8_t, kPositionPlaces>, kBalls> position_marks{};
   std::string report_buffer;
+  // The line of the last winner scan: its six numbers, and behind a gap the extra one.
+  std::array<std::uint8_t, kMatchPlaces> match_numbers{};
   BarColours bar_colours;
   // Set by the user's first choice of a style. Until then a screen tells the bands by its own
   // colours, although the first style paints them alike.
@@ -74,7 +77,7 @@ struct Session {
 
   // Which windows are open.
   bool main_window_loaded = false;
-  bool frm_txt_loaded = false;
+  bool wheel_window_loaded = false;
 
   std::int16_t loop_i = 0;
   std::int16_t loop_j = 0;

@@ -27,7 +27,7 @@ WheelWizard::WheelWizard(store::Session& session, base::Desktop& desktop, WheelS
 }
 
 void WheelWizard::Form_Load() {
-  session_.frm_txt_loaded = true;
+  session_.wheel_window_loaded = true;
   frame_.SetHelpFile(session_.program_folder + "\\QND.HLP");
   choosing_.CmbWheelPick_Click();
   desktop_.YieldFor(*this);
@@ -40,7 +40,7 @@ void WheelWizard::Form_Activate() {
 }
 
 void WheelWizard::Form_Unload() {
-  session_.frm_txt_loaded = false;
+  session_.wheel_window_loaded = false;
   frame_.MarkWheelWindow(false);
 }
 

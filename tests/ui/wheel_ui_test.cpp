@@ -20,6 +20,7 @@ struct WheelDesk : RunningDesk {
     base::User& user = app->Desk().User();
     user.Click(app->Desk().Main()->CmdScan);
     Frame().resize(1200, 770);
+    Settle();
     Find<QPushButton>("lblbuttons(2)")->click();
     Settle();
   }
