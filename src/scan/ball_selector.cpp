@@ -16,7 +16,6 @@ FrmDropDown::FrmDropDown() : Form("FrmDropDown", base::FormRole::kChild) {
   SetCaption("Ball Selector");
   CmdScan.SetCaption("Start");
   LblRecNum.SetCaption("Draw Number");
-  Timer1.SetEnabled(false);
   for (int row = 0; row < kRows; ++row) {
     Row(row).Each([](base::Label& label) {
       label.SetCaption(kNoMark);

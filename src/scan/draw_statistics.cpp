@@ -25,7 +25,10 @@ DrawStatistics Statistics(const std::vector<float>& counts) {
   result.range = static_cast<int>(
       std::count_if(counts.begin(), counts.end(), [](float count) { return count > 0; }));
   if (result.range == 0) throw base::Error(base::kOverflow);
-  if (result.range == 1) throw base::Error(base::kDivisionByZero);
+  // One ball leaves nothing to divide by; if a gap precedes it, there is nothing to divide either.
+  if (result.range == 1) {
+    throw base::Error(counts.front() > 0 ? base::kDivisionByZero : base::kOverflow);
+  }
 
   double squares = 0;
   result.lowest = kLowestStart;

@@ -16,7 +16,7 @@ struct DrawStatistics {
 };
 
 // `counts` holds the count of ball k at k - 1. Error 6 when nothing was counted, 11 when one ball
-// was.
+// was (6 again if it was not ball 1, which then divides 0 by 0).
 DrawStatistics Statistics(const std::vector<float>& counts);
 
 // The lines of the statistics box.

@@ -193,8 +193,8 @@ void GraphOptions::GoBack(int steps) {
   ShowMainWindowGraph();
   for (int step = 0; step < steps; ++step) {
     session.ReadDraw(session.current_draw_number - 1);
-    session.draw_count = base::AddInt16(session.draw_count, -1);
-    session.current_draw_number -= 1;
+    session.draw_count = base::ToInt16(session.current_draw_number - 1);
+    session.current_draw_number = session.draw_count;
     place_.Yield();
     browsing_.FillTextMainWindow();
     place_.Yield();

@@ -84,12 +84,13 @@ void WinnerScan::FillLines() {
   }
 }
 
-// Selecting another row loads its draw; the row that is selected already loads nothing.
+// Selecting another row loads its draw; the row that is selected already loads nothing. Row -1
+// selects none, so that the row after it loads.
 void WinnerScan::SelectLine(int row) {
   base::ListBox& lines = place_.window.List7;
-  if (row == lines.ListIndex() || row < 0) return;
+  if (row == lines.ListIndex()) return;
   lines.SetListIndex(row);
-  browsing_.List7_Click();
+  if (row >= 0) lines.on.click();
 }
 
 }  // namespace scan

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "store/browsing.h"
 #include "store/workplace.h"
 
 namespace scan {
@@ -8,8 +7,7 @@ namespace scan {
 // The panel "Combinations": how often a typed line would have won.
 class WinnerScan {
  public:
-  WinnerScan(store::Workplace place, store::Browsing& browsing)
-      : place_(place), browsing_(browsing) {}
+  explicit WinnerScan(store::Workplace place) : place_(place) {}
 
   void Wire();
   void Labscanwinners_Click();
@@ -21,7 +19,6 @@ class WinnerScan {
   void SelectLine(int row);
 
   store::Workplace place_;
-  store::Browsing& browsing_;
 };
 
 }  // namespace scan

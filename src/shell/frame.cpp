@@ -46,9 +46,10 @@ void Frame::Wire() {
       trapped("MnuRWC_Click", [this] { StyleMenu_Click(window_.MnuRWC, Style::kColdWarmHot); });
   window_.MnuHC.on.click =
       trapped("MnuHC_Click", [this] { StyleMenu_Click(window_.MnuHC, Style::kColdHot); });
-  window_.MnuWheel.on.click = [this] { windows_.MakeWheel(); };
-  window_.Label5.on.click = [this] { windows_.ShowWheelWindow(); };
-  window_.MnuStdDev.on.click = [this] { windows_.StandardDeviation(); };
+  window_.MnuWheel.on.click = trapped("MnuWheel_Click", [this] { windows_.MakeWheel(); });
+  window_.Label5.on.click = trapped("Label5_Click", [this] { windows_.ShowWheelWindow(); });
+  window_.MnuStdDev.on.click =
+      trapped("MnuStdDev_Click", [this] { windows_.StandardDeviation(); });
   window_.MnuNumberSelector.on.click =
       trapped("MnuNumberSelector_Click", [this] { windows_.ShowBallSelector(); });
 }

@@ -19,7 +19,7 @@ MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& d
       main_scan_(place_, browsing_, entry_, counts_, graph_, frequencies_),
       scan_filter_(place_, browsing_, entry_, frequencies_),
       graph_options_(place_, browsing_, graph_, frame),
-      winner_scan_(place_, browsing_) {
+      winner_scan_(place_) {
   on.load = [this] { store::Trapped(place_.reporter, "Form_Load", [this] { Form_Load(); }); };
   on.activate = [this] { loading_.Form_Activate(); };
   on.unload = [this] { Form_Unload(); };

@@ -164,7 +164,6 @@ void Browsing::ShowSelectedRow() {
 void Browsing::ClearHighlight() {
   MainWindow& window = place_.window;
   window.ProgressBar1.Each([](base::Bar& bar) {
-    if (bar.Index() == 0) return;
     bar.SetBorderStyle(0);
     bar.SetBackColor(kWhite);
   });

@@ -94,14 +94,14 @@ void Entry::Wire() {
 void Entry::cmdAdd_Click() {
   Session& session = place_.session;
   MainWindow& window = place_.window;
-  for (int k = 0; k < kBalls; ++k) window.BallBox(k).SetEnabled(true);
-  for (const int heading : {5, 7, 8, 9, 10}) window.Label7(heading).SetEnabled(true);
+  EnableBoxes();
   if (session.tips_on) ShowTip(place_.World().boxes, 5);
   browsing_.cmdLast_Click();
   place_.Yield();
   window.lblProductName1(kNotice).SetCaption("The last entry was on " + window.TxtBall07.Text() +
                                              " the " + window.txtDate.Text());
   cmdClear_Click();
+  EnableBoxes();  // a last draw with fewer balls has disabled some on its way
   session.current_draw_number = static_cast<float>(session.UpperBound()) + 1;
   window.cmdSave.SetEnabled(true);
   window.cmdClear.SetEnabled(true);
@@ -109,6 +109,12 @@ void Entry::cmdAdd_Click() {
   browsing_.EnableTheButtons(false);
   window.CmdScan.SetEnabled(false);
   place_.desktop.SetFocus(window.TxtBall01);
+}
+
+void Entry::EnableBoxes() {
+  MainWindow& window = place_.window;
+  for (int k = 0; k < kBalls; ++k) window.BallBox(k).SetEnabled(true);
+  for (const int heading : {5, 7, 8, 9, 10}) window.Label7(heading).SetEnabled(true);
 }
 
 void Entry::cmdClear_Click() {
@@ -264,7 +270,7 @@ void Entry::ShowSavedDraw() {
   window.List7.AddItem(DrawLine(saved));
   window.ListView1.AddRow(TableRow(saved));
   window.List7.SetListIndex(window.List7.ListCount() - 1);
-  browsing_.List7_Click();
+  window.List7.on.click();
 }
 
 // --- Editing in place

@@ -52,6 +52,7 @@ class Entry {
   void DoTextBox();
 
  private:
+  void EnableBoxes();
   void StartEdit();
   void SaveEdit();
   void ReplaceEditedLine();

@@ -48,6 +48,14 @@ TEST(BallSelector, OneDrawIsRead) {
   EXPECT_EQ(board.Label2(6).Caption(), "06");
 }
 
+TEST(BallSelector, AMissingBallGoesToColumnZero) {
+  TestDesk desk({Draw({1, 2, 3, 4, 5}), Draw({6, 7, 8, 9, 10, 11})});
+  desk.Start();
+  scan::FrmDropDown& board = OpenBoard(desk);
+  desk.User().Click(board.CmdScan);
+  EXPECT_EQ(board.Label2(0).BackColor(), 0x00FFFFu);
+}
+
 TEST(BallSelector, ABallAbove52GoesToTheDefaultHandler) {
   TestDesk desk({Draw({1, 2, 3, 4, 5, 53}), Draw({1, 2, 3, 4, 5, 6})});
   desk.Start();

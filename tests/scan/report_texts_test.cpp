@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "base/language/text_order.h"
+
 #include "scan/due_list.h"
 #include "scan/frequency_report.h"
 
@@ -45,6 +47,15 @@ TEST(DueList, SpeaksOfAverageWithOneDecimal) {
   EXPECT_EQ(DueSentence("12.50 12"),
             "Ball  12 is next due to appear in about 12.5 draws time.\r\n");
   EXPECT_EQ(DueSentence("07.00 45"), "Ball  45 is next due to appear in about 7 draws time.\r\n");
+}
+
+// The list of what is due sorts by text: an average above 99.99 stands in front.
+TEST(DueList, SortsAverageAboveAHundredByText) {
+  const std::string far = DueRow(201, 2, 7);
+  const std::string near = DueRow(999, 10, 8);
+  EXPECT_EQ(far, "100.5 07");
+  EXPECT_EQ(near, "99.90 08");
+  EXPECT_LT(base::CompareText(far, near), 0);
 }
 
 }  // namespace

@@ -47,7 +47,6 @@ TEST(WinnerScan, SortsTheNumbersAndWritesTheTable) {
   EXPECT_EQ(desk.Main().Txtb1(1).Text(), "3");
   EXPECT_EQ(desk.Main().Txtb1(2).Text(), "5");
   EXPECT_EQ(desk.Main().Txtb1(3).Text(), "");
-  // The first row was selected already, so its pass compares the draw in memory: one draw more.
   EXPECT_EQ(desk.Main().txtpermcheck.Text(),
             std::string("Number combination results\r\n"
                         "6 ball matchs = 0 of which 0 contained XB & 0 main\r\n"
@@ -76,6 +75,43 @@ TEST(WinnerScan, BeginsAtTheStartDraw) {
   desk.Main().TxtStartDrawAt(0).SetText("30");
   TypeLine(desk, {"1", "3", "5"});
   EXPECT_NE(desk.Main().txtpermcheck.Text().find("3 ball matchs = 10 of"), std::string::npos);
+}
+
+// The row that is chosen already fires no event, so its pass and the one before it begin with the
+// draw in memory; then every draw is loaded all the same.
+TEST(WinnerScan, LoadsTheFirstDrawAlthoughItIsChosenAlready) {
+  auto draws = std::vector<store::DrawRecord>(40, Draw({11, 13, 15, 20, 21, 22, 7}));
+  draws[0] = Draw({1, 2, 30, 31, 32, 33, 7});
+  TestDesk desk(draws);
+  desk.Start();
+  desk.User().Pick(desk.Main().List7, 0);
+  desk.User().Click(desk.Main().cmdLast);
+  desk.Main().List7.SetListIndex(0);
+  desk.Main().TxtStartDrawAt(0).SetText("0");
+  TypeLine(desk, {"1", "2"});
+  EXPECT_NE(desk.Main().txtpermcheck.Text().find("2 ball matchs = 1 of"), std::string::npos);
+}
+
+TEST(WinnerScan, ComparesTheOnlyDraw) {
+  TestDesk desk({Draw({1, 3, 5, 20, 21, 22, 7})});
+  desk.Start();
+  desk.Main().TxtStartDrawAt(0).SetText("7");
+  TypeLine(desk, {"1", "3", "5"});
+  EXPECT_NE(desk.Main().txtpermcheck.Text().find("3 ball matchs = 1 of"), std::string::npos);
+  EXPECT_EQ(desk.Main().TxtStartDrawAt(0).Text(), "1");
+}
+
+TEST(WinnerScan, GoesOnBehindADrawThatCannotBeRead) {
+  auto draws = std::vector<store::DrawRecord>(40, Draw({1, 3, 5, 20, 21, 22, 7}));
+  draws[10].b[2] = "xx";
+  TestDesk desk(draws);
+  desk.Start();
+  desk.TakeBoxTexts();
+  TypeLine(desk, {"1", "3", "5"});
+  const std::vector<std::string> texts = desk.TakeBoxTexts();
+  ASSERT_FALSE(texts.empty());
+  EXPECT_NE(texts[0].find("illigal operation at List7_Click"), std::string::npos);
+  EXPECT_NE(desk.Main().txtpermcheck.Text().find("Number combination results"), std::string::npos);
 }
 
 TEST(WinnerScan, TellsOneJackpotOnly) {

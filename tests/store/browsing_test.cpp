@@ -107,6 +107,18 @@ TEST(Browsing, HighlightMarksTheSixMainBalls) {
   EXPECT_EQ(desk.Main().ProgressBar1(8).BorderStyle(), 0);
 }
 
+TEST(Browsing, TheMarkOfAMissingBallGoesWithTheHighlight) {
+  TestDesk desk(std::vector<store::DrawRecord>(40, Draw({7, 12, 19, 27, 35})));
+  desk.settings.Save("velmonte", "390", "MnuHgight", "True");
+  desk.Start();
+  desk.User().Pick(desk.Main().ListView1, 5);
+  desk.User().Pick(desk.Main().ListView1, 6);
+  EXPECT_EQ(desk.Main().ProgressBar1(0).BorderStyle(), 1);
+  desk.User().Choose(desk.Frame().MnuHgight);
+  EXPECT_EQ(desk.Main().ProgressBar1(0).BorderStyle(), 0);
+  EXPECT_EQ(desk.Main().ProgressBar1(0).BackColor(), 0xFFFFFFu);
+}
+
 TEST(Browsing, EmptyTableLoadsTheBuffersAgain) {
   TestDesk desk;
   desk.Start();

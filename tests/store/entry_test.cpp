@@ -212,6 +212,29 @@ TEST(Entry, PastesALineOfResults) {
   EXPECT_EQ(desk.Main().TxtBall07.Text(), "Mon");
 }
 
+TEST(Entry, APasteEndsWithItsFirstLine) {
+  TestDesk desk;
+  desk.Start();
+  desk.User().Click(desk.Main().cmdAdd);
+  desk.User().Paste(desk.Main().TxtBall01,
+                    "12/05/05 1 2 3 4 5 6 7\r\n19/05/05 8 9 10 11 12 13 14\r\n");
+  EXPECT_EQ(desk.Main().TxtBallBB.Text(), "7");
+  EXPECT_EQ(desk.Main().TxtBall06.Text(), "6");
+}
+
+// The last draw may have fewer balls than the one that is being added.
+TEST(Entry, AddingEnablesEveryBallBox) {
+  std::vector<store::DrawRecord> draws(3, Draw({1, 2, 3, 4, 5, 6, 7}));
+  draws.push_back(Draw({1, 2, 3, 4, 5}));
+  TestDesk desk(draws);
+  desk.Start();
+  desk.User().Click(desk.Main().cmdAdd);
+  EXPECT_TRUE(desk.Main().TxtBall06.Enabled());
+  EXPECT_TRUE(desk.Main().TxtBallBB.Enabled());
+  EXPECT_TRUE(desk.Main().Label7(7).Enabled());
+  EXPECT_TRUE(desk.Main().Label7(5).Enabled());
+}
+
 TEST(Entry, APasteWithoutAPlaceForTheBallsHoldsZeros) {
   TestDesk desk;
   StartQuietly(desk);

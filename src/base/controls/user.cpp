@@ -132,8 +132,10 @@ void User::TypeCharacter(char character) {
   });
 }
 
+// A box that a person types into holds one line: a text from elsewhere ends with its first.
 void User::EditText(TextBox& box, std::string_view text) {
   Refuse(box);
+  text = text.substr(0, text.find_first_of("\r\n"));
   desktop_.Dispatch([&] { box.SetText(text); });
 }
 

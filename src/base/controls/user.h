@@ -35,7 +35,7 @@ class User {
   void Type(Control& control, std::string_view keys);
   // One typed character into the control that has the focus (key down, press, the text, key up).
   void TypeCharacter(char character);
-  // The text takes the place of the box's: Change, then mouse up.
+  // The text, up to its first line break, takes the place of the box's: Change, then mouse up.
   void Paste(TextBox& box, std::string_view text);
   // The person's editing left this text in the box: Change.
   void EditText(TextBox& box, std::string_view text);
