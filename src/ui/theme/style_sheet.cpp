@@ -110,6 +110,12 @@ QHeaderView::section { background: @card; color: @dim; border: none; padding: 4p
 QHeaderView[narrow="true"]::section { padding: 4px 1px; }
 QTableCornerButton::section { background: @card; border: none; }
 QTabBar { background: transparent; }
+QSlider { background: transparent; min-height: 20px; }
+QSlider::groove:horizontal { height: 4px; background: @handle; border-radius: 2px; }
+QSlider::handle:horizontal { width: 14px; margin: -5px 0px; border-radius: 7px;
+  background: @accent; }
+QSlider::handle:horizontal:hover { background: @accenthover; }
+QSlider:focus { border: 1px solid @accent; border-radius: 7px; }
 QSplitter::handle { background: transparent; }
 QScrollArea { background: transparent; border: none; }
 QAbstractScrollArea::corner { background: transparent; border: none; }

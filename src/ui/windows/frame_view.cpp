@@ -84,6 +84,7 @@ void FrameView::AddChild(base::Form& form, QWidget* view) {
   children_.insert(&form, scroll);
   room_->addWidget(scroll);
   room_->setCurrentWidget(scroll);
+  if (view->focusProxy()) view->setFocus();  // where the road through the window begins
   if (auto* const binder = view->findChild<Binder*>()) {
     connect(binder, &Binder::synced, status_, &StatusLine::Refresh);
   }

@@ -10,7 +10,7 @@
 namespace ui {
 namespace {
 
-constexpr int kRowHeight = 32;
+constexpr int kRowHeight = 30;
 constexpr int kBall = 26;
 constexpr int kBallColumn = 44;
 constexpr int kTemperatureRow = 27;

@@ -100,6 +100,7 @@ WheelView::WheelView(shell::Desk& desk, wheels::FrmTxt& window, QWidget* parent)
   rows->addWidget(MakeResult(), kResultShare);
   slip_ = new NumberSlip(binder_, window, this);
   slip_->installEventFilter(this);
+  setFocusProxy(findChild<QListView*>(QString::fromStdString(window.List2.Name())));
   connect(&binder_, &Binder::detached, this, [this] { window_ = nullptr; });
   connect(&binder_, &Binder::synced, this, [this] {
     ShowTab();
