@@ -48,8 +48,7 @@ void Frame::Wire() {
       trapped("MnuHC_Click", [this] { StyleMenu_Click(window_.MnuHC, Style::kColdHot); });
   window_.MnuWheel.on.click = trapped("MnuWheel_Click", [this] { windows_.MakeWheel(); });
   window_.Label5.on.click = trapped("Label5_Click", [this] { windows_.ShowWheelWindow(); });
-  window_.MnuStdDev.on.click =
-      trapped("MnuStdDev_Click", [this] { windows_.StandardDeviation(); });
+  window_.MnuStdDev.on.click = trapped("MnuStdDev_Click", [this] { windows_.StandardDeviation(); });
   window_.MnuNumberSelector.on.click =
       trapped("MnuNumberSelector_Click", [this] { windows_.ShowBallSelector(); });
 }

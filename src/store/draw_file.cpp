@@ -8,8 +8,15 @@
 namespace store {
 namespace {
 
+constexpr int kTexts = 9;  // of a record
+
 // Large enough that a walk reads the disk rarely, small enough to stay in the processor's cache.
 constexpr std::size_t kBlock = std::size_t{128} * 1024;
+
+unsigned WordOf(std::string_view two_bytes) {
+  return static_cast<unsigned char>(two_bytes[0]) |
+         static_cast<unsigned>(static_cast<unsigned char>(two_bytes[1])) << 8;
+}
 
 }  // namespace
 
@@ -48,9 +55,7 @@ std::string_view DrawFile::Bytes(std::int64_t offset, std::size_t count) {
 unsigned DrawFile::ReadWord(std::int64_t& offset) {
   const std::string_view bytes = Bytes(offset, 2);
   offset += static_cast<std::int64_t>(bytes.size());
-  if (bytes.size() < 2) return 0;
-  return static_cast<unsigned char>(bytes[0]) |
-         static_cast<unsigned>(static_cast<unsigned char>(bytes[1])) << 8;
+  return bytes.size() < 2 ? 0 : WordOf(bytes);
 }
 
 void DrawFile::ReadText(std::int64_t& offset, std::string& text) {
@@ -71,6 +76,27 @@ std::int32_t DrawFile::Read(std::int32_t position, DrawRecord& record) {
   ReadText(offset, record.date);
   if (offset >= std::numeric_limits<std::int32_t>::max()) throw base::Error(base::kOverflow);
   return static_cast<std::int32_t>(offset + 1);
+}
+
+std::string DrawFile::MissingBytes(std::int32_t position) {
+  std::string missing;
+  std::int64_t offset = position - 1;
+  if (position < 1 || Bytes(offset, 1).empty()) return missing;
+  const auto word = [&] {
+    std::string bytes(Bytes(offset, 2));
+    offset += static_cast<std::int64_t>(bytes.size());
+    missing.append(2 - bytes.size(), '\0');
+    bytes.resize(2);
+    return WordOf(bytes);
+  };
+  word();
+  for (int text = 0; text < kTexts; ++text) {
+    const std::size_t length = word();
+    const std::size_t there = Bytes(offset, length).size();
+    missing.append(length - there, ' ');
+    offset += static_cast<std::int64_t>(there);
+  }
+  return missing;
 }
 
 void DrawFile::Write(std::int32_t position, const DrawRecord& record) {

@@ -29,6 +29,10 @@ class DrawFile {
   // as 0 and a text gives what bytes there are.
   std::int32_t Read(std::int32_t position, DrawRecord& record);
 
+  // What the file lacks for the record at this position to be whole: zero lengths, and blanks for
+  // the rest of a text. Empty for a whole record, and where no byte of one stands.
+  std::string MissingBytes(std::int32_t position);
+
   // Appends the record. Only `position` = length + 1 is a place to write; any other is error 5.
   void Write(std::int32_t position, const DrawRecord& record);
   // Appends records already encoded, in one step that succeeds whole or leaves the file as it was.

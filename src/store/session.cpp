@@ -30,8 +30,19 @@ void WalkFile(Session& session) {
   WalkFile(session, [] {});
 }
 
+// A save that was cut short has left a record torn: it is made whole first, so that it does not
+// swallow the new one.
+void CompleteLastRecord(Session& session) {
+  if (session.draw_pos.size() < 2) return;
+  const std::string missing = session.file.MissingBytes(session.draw_pos.back());
+  if (missing.empty()) return;
+  session.file.AppendBytes(missing);
+  session.file_len = session.file.Length();
+}
+
 void AppendCurrentDraw(Session& session) {
   const std::int16_t count = base::ToInt16(static_cast<double>(session.draw_pos.size()));
+  CompleteLastRecord(session);
   session.file_pos = session.file_len + 1;
   session.file.Write(session.file_pos, session.current_draw);
   session.draw_pos.push_back(session.file_pos);

@@ -282,6 +282,14 @@ TEST_F(Kill, ASaveCutOffInTheMiddleOfItsRecordLeavesTheDrawsBefore) {
     StartQuietly(desk);
     ExpectBegins(desk, change.old_draws);
     if (HasFatalFailure()) return;
+    // What is torn does not swallow the draw that is saved next.
+    SaveDraw(desk, change.new_draws.back());
+    TestDesk later;
+    PutFiles(later, FilesIn(desk));
+    StartQuietly(later);
+    ExpectBegins(later, change.old_draws);
+    EXPECT_EQ(DrawsOf(later).back(), change.new_draws.back());
+    if (HasFatalFailure()) return;
   }
 }
 
