@@ -40,11 +40,23 @@ void CompleteLastRecord(Session& session) {
   session.file_len = session.file.Length();
 }
 
+// A single byte behind the last record is too little to be one; the new record goes on with it.
+bool OneByteIsLeftOver(Session& session) {
+  DrawRecord last;
+  return session.draw_pos.size() >= 2 &&
+         session.file.Read(session.draw_pos.back(), last) == session.file_len;
+}
+
 void AppendCurrentDraw(Session& session) {
   const std::int16_t count = base::ToInt16(static_cast<double>(session.draw_pos.size()));
   CompleteLastRecord(session);
-  session.file_pos = session.file_len + 1;
-  session.file.Write(session.file_pos, session.current_draw);
+  if (OneByteIsLeftOver(session)) {
+    session.file_pos = session.file_len;
+    session.file.AppendBytes(EncodeRecord(session.current_draw).substr(1));
+  } else {
+    session.file_pos = session.file_len + 1;
+    session.file.Write(session.file_pos, session.current_draw);
+  }
   session.draw_pos.push_back(session.file_pos);
   session.draw_count = count;
   session.current_draw_number = static_cast<float>(session.draw_count) + 1;
