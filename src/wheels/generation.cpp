@@ -36,6 +36,7 @@ void Generation::Generate() {
   state.wheel_ini_path = LibraryPath(place_.World().settings, place_.program_folder);
   if (state.wheel_ini_path.empty()) return;
   const base::Profile library(place_.World().files, state.wheel_ini_path);
+  WheelCount(library);  // a count that is none ends it here, with the sorted lines as they were
   window.LstSorted.Clear();
 
   const std::optional<std::string> wheel =

@@ -43,6 +43,7 @@ class WheelUi : public QObject {
   void OpensFromMakeWheel();
   void EveryWidgetThatTakesTheFocusHasAName();
   void NoButtonCaptionIsCut();
+  void NoButtonCaptionIsCutWithLargestText();
   void TwoDigitsFillABoxAndMoveOn();
   void ASlipNumberGoesIntoTheBoxThatWasDoubleClicked();
   void ANumberCanBeDroppedOnABox();
@@ -70,6 +71,12 @@ void WheelUi::EveryWidgetThatTakesTheFocusHasAName() {
 void WheelUi::NoButtonCaptionIsCut() {
   WheelDesk desk;
   CheckCaptions(desk);
+}
+
+void WheelUi::NoButtonCaptionIsCutWithLargestText() {
+  WheelDesk desk(QStringLiteral("Quorbit Number Desk|Settings|TextSize=Largest\n"));
+  CheckCaptions(desk);
+  Theme::Current().SetTextSize(TextSize::kNormal);
 }
 
 void WheelUi::TwoDigitsFillABoxAndMoveOn() {

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QTableView>
 #include <QVBoxLayout>
 
 #include "ui/theme/theme.h"
@@ -35,7 +36,7 @@ MainWindowView::MainWindowView(shell::Desk& desk, store::MainWindow& window, QWi
   rows->addWidget(new DrawHeader(binder_, window, this));
   rows->addWidget(new GraphCard(desk, window, binder_, this), kGraphShare);
   rows->addWidget(MakeLowerRow(), kLowerShare);
-  setFocusProxy(findChild<QPushButton*>(QString::fromStdString(window.CmdScan.Name())));
+  setFocusProxy(findChild<QTableView*>(QString::fromStdString(window.ListView1.Name())));
   connect(&binder_, &Binder::detached, this, [this] { window_ = nullptr; });
   connect(&binder_, &Binder::synced, this, &MainWindowView::ShowTab);
   ShowTab();
