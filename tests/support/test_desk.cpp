@@ -35,6 +35,21 @@ base::Answer LoggedBoxes::Ask(const base::MessageBox& box) {
   return answer;
 }
 
+std::optional<std::string> LoggedBoxes::Input(const base::InputBox& box) {
+  asked.push_back(box);
+  if (inputs.empty()) return box.default_text;
+  std::optional<std::string> text = std::move(inputs.front());
+  inputs.pop_front();
+  return text;
+}
+
+base::DateTime FixedClock::Now() {
+  if (looks.empty()) return now;
+  const base::DateTime look = looks.front();
+  looks.pop_front();
+  return look;
+}
+
 void ScriptedPump::Pump() {
   ++yields;
   const auto [begin, end] = actions_.equal_range(yields);
@@ -102,10 +117,9 @@ void TestDesk::Start() {
 }
 
 void TestDesk::Restart() {
-  base::Ports ports{boxes,         pump,         quiet_.clock,
-                    quiet_.beeper, quiet_.shell, mail,
-                    printer,       help,         quiet_.system_information,
-                    region,        *files,       settings};
+  base::Ports ports{
+      boxes,  pump,   clock,   beeper, shell_open, mail, printer, help, quiet_.system_information,
+      region, *files, settings};
   desk_ = std::make_unique<shell::Desk>(ports, folder.string());
   desk_->Start();
 }

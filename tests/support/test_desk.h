@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,12 +30,15 @@ class MemorySettings : public base::Settings {
 };
 
 // Message boxes that log what they are asked and take their answers from a queue; an empty queue
-// answers with the default button.
+// answers with the default button, and an input box with its default text.
 class LoggedBoxes : public base::MessageBoxes {
  public:
   base::Answer Ask(const base::MessageBox& box) override;
+  std::optional<std::string> Input(const base::InputBox& box) override;
   std::deque<base::Answer> answers;
   std::vector<base::MessageBox> shown;
+  std::deque<std::optional<std::string>> inputs;  // nothing presses Cancel
+  std::vector<base::InputBox> asked;
   // Runs while a box is open, before it is answered.
   std::function<void()> on_ask;
 };
@@ -49,6 +53,26 @@ class ScriptedPump : public base::EventPump {
 
  private:
   std::multimap<int, std::function<void()>> actions_;
+};
+
+// A clock that stands where it is set. Looks queued are told first, one at each look.
+class FixedClock : public base::Clock {
+ public:
+  base::DateTime Now() override;
+  base::DateTime now{2000, 1, 1, 0, 0, 0};
+  std::deque<base::DateTime> looks;
+};
+
+class LoggedBeeper : public base::Beeper {
+ public:
+  void Beep() override { ++beeps; }
+  int beeps = 0;
+};
+
+class LoggedShell : public base::ShellOpen {
+ public:
+  void Open(const base::ShellOpenRequest& request) override { opened.push_back(request); }
+  std::vector<base::ShellOpenRequest> opened;
 };
 
 class LoggedMail : public base::Mail {
@@ -115,6 +139,9 @@ class TestDesk {
   MemorySettings settings;
   LoggedBoxes boxes;
   ScriptedPump pump;
+  FixedClock clock;
+  LoggedBeeper beeper;
+  LoggedShell shell_open;
   LoggedMail mail;
   LoggedHelp help;
   LoggedPrinter printer;
