@@ -29,11 +29,11 @@ void NumberBoxes::Wire() {
 
 void NumberBoxes::WireBox(base::TextBox& box) {
   base::Panel& panel = place_.window.PicNumbers;
-  box.on.change = [this, &box] {
-    padded_[static_cast<std::size_t>(box.Index())] = false;
-    AddOto1LengthNumbers();
+  box.on.change = [this, &box] { TXTActiveNumbers_Change(box); };
+  box.on.lost_focus = [this, &box] {
+    Pad(box);
+    begun_ = kNone;
   };
-  box.on.lost_focus = [this, &box] { Pad(box); };
   box.on.key_press = [this, &box](char& key) { TXTActiveNumbers_KeyPress(box, key); };
   box.on.click = [this, &box, &panel] {
     ChangeColors();
@@ -58,13 +58,21 @@ void NumberBoxes::TXTActiveNumbers_KeyPress(base::TextBox& box, char& key) {
     return;
   }
   const bool holds_a_character = !box.Text().empty();
-  TakeBackZero(box);
+  const bool lone_digit = box.Text().size() == 2 && box.Text().front() == '0';
+  if (lone_digit && (begun_ == box.Index() || key == kBackspace)) TakeBackZero(box);
+  typed_ = box.Index();
   // The second digit completes a number and moves on.
   if (key != kBackspace && holds_a_character) place_.desktop.SendTab();
 }
 
+void NumberBoxes::TXTActiveNumbers_Change(base::TextBox& box) {
+  if (padding_rests_) return;
+  begun_ = typed_ == box.Index() && box.Text().size() == 1 ? typed_ : kNone;
+  typed_ = kNone;
+  AddOto1LengthNumbers();
+}
+
 void NumberBoxes::TakeBackZero(base::TextBox& box) {
-  if (!padded_[static_cast<std::size_t>(box.Index())]) return;
   padding_rests_ = true;
   box.SetText(base::Right(box.Text(), 1));
   padding_rests_ = false;
@@ -75,9 +83,10 @@ void NumberBoxes::AddOto1LengthNumbers() {
 }
 
 void NumberBoxes::Pad(base::TextBox& box) {
-  if (padding_rests_ || box.Text().size() != 1) return;
+  if (box.Text().size() != 1) return;
+  padding_rests_ = true;
   box.SetText("0" + box.Text());
-  padded_[static_cast<std::size_t>(box.Index())] = true;
+  padding_rests_ = false;
 }
 
 void NumberBoxes::SortNumbers() {

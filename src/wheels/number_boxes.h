@@ -1,7 +1,5 @@
 #pragma once
 
-#include <array>
-
 #include "wheels/wheel_place.h"
 
 namespace wheels {
@@ -14,6 +12,7 @@ class NumberBoxes {
   void Wire();
 
   void TXTActiveNumbers_KeyPress(base::TextBox& box, char& key);
+  void TXTActiveNumbers_Change(base::TextBox& box);
   // Pads every box that holds one character.
   void AddOto1LengthNumbers();
   // Sorts the numbers; a blank box stays and holds the numbers before and behind it apart.
@@ -26,12 +25,15 @@ class NumberBoxes {
  private:
   void WireBox(base::TextBox& box);
   void Pad(base::TextBox& box);
-  // Takes back the zero that padding put before a single typed digit.
+  // Takes back the zero that padding put before a single digit.
   void TakeBackZero(base::TextBox& box);
   void PutQuickNumber(const base::Label& label);
 
+  static constexpr int kNone = -1;
+
   WheelPlace place_;
-  std::array<bool, kNumberBoxes> padded_{};  // holds one digit behind a zero of the padding
+  int typed_ = kNone;  // the box that the running key is typed into
+  int begun_ = kNone;  // the box whose only digit was typed just now and stands behind a zero
   bool padding_rests_ = false;
 };
 

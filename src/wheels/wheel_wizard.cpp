@@ -64,7 +64,7 @@ void WheelWizard::TakeOver(const std::vector<std::string>& entries) {
 }
 
 void WheelWizard::ShowAlone() {
-  if (!Loaded()) choosing_.FillNumberSets();
+  if (List1.ListCount() == 0) choosing_.FillNumberSets();
   Move(0, 0);
   desktop_.Show(*this);
 }

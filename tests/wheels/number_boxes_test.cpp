@@ -39,6 +39,25 @@ TEST(NumberBoxes, ABackspaceTakesThePaddingWithTheDigit) {
   EXPECT_EQ(desk.Box(0).Text(), "34");
 }
 
+// The zero gives way to the digit typed next, not to one that finds it in the box.
+TEST(NumberBoxes, TypingIntoAFilledBoxGoesBehindWhatStandsThere) {
+  OpenDesk desk;
+  desk.SetBoxes({"5"});
+  desk.User().Type(desk.Box(0), "1");
+  EXPECT_EQ(desk.Box(0).Text(), "051");
+  EXPECT_EQ(desk.Desk().Desktop().Focused(), &desk.Box(1));
+  desk.User().Type(desk.Box(2), "7{Tab}");
+  desk.User().Type(desk.Box(2), "2");
+  EXPECT_EQ(desk.Box(2).Text(), "072");
+}
+
+TEST(NumberBoxes, ABackspaceMakesRoomForAnotherSecondDigit) {
+  OpenDesk desk;
+  desk.SetBoxes({"34"});
+  desk.User().Type(desk.Box(0), "{Back}5");
+  EXPECT_EQ(desk.Box(0).Text(), "35");
+}
+
 TEST(NumberBoxes, ABackspaceNeverMovesOn) {
   OpenDesk desk;
   desk.SetBoxes({"34"});
