@@ -14,6 +14,7 @@
 #include "ui/windows/graph_card.h"
 #include "ui/windows/graph_panels.h"
 #include "ui/windows/report_panel.h"
+#include "ui/windows/tab_card.h"
 
 namespace ui {
 namespace {
@@ -53,45 +54,18 @@ QSplitter* MainWindowView::MakeLowerRow() {
 }
 
 QFrame* MainWindowView::MakeTabCard() {
-  const Theme& theme = Theme::Current();
-  const int inside = theme.Space(Spacing::kInside);
-  auto* const card = new QFrame(this);
-  card->setProperty("card", true);
-  auto* const column = new QVBoxLayout(card);
-  column->setContentsMargins(1, theme.Space(Spacing::kTiny), 1, inside);
-  column->setSpacing(0);
-  column->addLayout(MakeTabStrip(card));
-  auto* const line = new QFrame(card);
-  line->setProperty("hairline", true);
-  line->setFixedHeight(1);
-  column->addWidget(line);
-  panels_ = new QStackedWidget(card);
-  panels_->setContentsMargins(inside, theme.Space(Spacing::kSmall), inside, 0);
-  for (const Tab& tab : tabs_) panels_->addWidget(MakePanel(*tab.panel));
-  column->addWidget(panels_, 1);
-  return card;
-}
-
-QBoxLayout* MainWindowView::MakeTabStrip(QWidget* card) {
-  const Theme& theme = Theme::Current();
-  auto* const strip = new QHBoxLayout;
-  strip->setContentsMargins(theme.Space(Spacing::kSmall), 0, theme.Space(Spacing::kSmall), 0);
-  strip->setSpacing(theme.Space(Spacing::kTiny));
+  auto* const card = new TabCard(this);
+  panels_ = &card->Pages();
   tabs_ = {{&window_->Label3, &window_->Picture4, nullptr},
            {&window_->Label4, &window_->Picture3, nullptr},
            {&window_->Label5, &window_->Picture5, nullptr},
            {&window_->Label8, &window_->PicScanFilter, nullptr}};
   for (Tab& tab : tabs_) {
-    tab.button = new QPushButton(card);
-    tab.button->setProperty("tab", true);
-    tab.button->setCheckable(true);
-    binder_.Bind(tab.button, *tab.label);
-    // A click does not open a tab by itself; the desk does, or leaves it.
+    tab.button = card->AddTab(binder_, *tab.label);
     connect(tab.button, &QPushButton::clicked, this, &MainWindowView::ShowTab);
-    strip->addWidget(tab.button);
+    panels_->addWidget(MakePanel(*tab.panel));
   }
-  strip->addStretch(1);
-  return strip;
+  return card;
 }
 
 QWidget* MainWindowView::MakePanel(const base::Panel& panel) {

@@ -7,7 +7,6 @@
 #include "store/main_window.h"
 #include "ui/bind/binder.h"
 
-class QBoxLayout;
 class QFrame;
 class QPushButton;
 class QSplitter;
@@ -29,7 +28,6 @@ class MainWindowView : public QWidget {
 
   QSplitter* MakeLowerRow();
   QFrame* MakeTabCard();
-  QBoxLayout* MakeTabStrip(QWidget* card);
   QWidget* MakePanel(const base::Panel& panel);
   void ShowTab();
 

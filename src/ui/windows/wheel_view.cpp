@@ -15,6 +15,7 @@
 
 #include "ui/theme/theme.h"
 #include "ui/windows/number_slip.h"
+#include "ui/windows/tab_card.h"
 #include "ui/windows/wheel_tables.h"
 
 namespace ui {
@@ -270,43 +271,18 @@ QWidget* WheelView::MakeBox(int place) {
 }
 
 QFrame* WheelView::MakeResult() {
-  const Theme& theme = Theme::Current();
-  const int inside = theme.Space(Spacing::kInside);
-  auto* const card = new QFrame(this);
-  card->setProperty("card", true);
-  auto* const column = new QVBoxLayout(card);
-  column->setContentsMargins(1, theme.Space(Spacing::kTiny), 1, inside);
-  column->setSpacing(0);
-  auto* const strip = new QHBoxLayout;
-  strip->setContentsMargins(theme.Space(Spacing::kSmall), 0, theme.Space(Spacing::kSmall), 0);
-  strip->setSpacing(theme.Space(Spacing::kTiny));
-  for (const int tab : {0, 1}) {
-    auto* const button = new QPushButton(card);
-    button->setProperty("tab", true);
-    button->setCheckable(true);
-    binder_.Bind(button, window_->cmdwizar(tab));
-    // A click does not open a tab by itself; the desk does.
-    connect(button, &QPushButton::clicked, this, &WheelView::ShowTab);
-    strip->addWidget(button);
-    (tab == 0 ? wheel_tab_ : numbers_tab_) = button;
+  auto* const card = new TabCard(this);
+  pages_ = &card->Pages();
+  wheel_tab_ = card->AddTab(binder_, window_->cmdwizar(0));
+  numbers_tab_ = card->AddTab(binder_, window_->cmdwizar(1));
+  for (QPushButton* tab : {wheel_tab_, numbers_tab_}) {
+    connect(tab, &QPushButton::clicked, this, &WheelView::ShowTab);
   }
-  strip->addStretch(1);
-  for (const int index : {1, 2, 3}) {
-    auto* const button = new QPushButton(card);
-    button->setProperty("accent", index == 1);
-    binder_.Bind(button, window_->cmdwizard(index));
-    strip->addWidget(button);
-  }
-  column->addLayout(strip);
-  auto* const line = new QFrame(card);
-  line->setProperty("hairline", true);
-  line->setFixedHeight(1);
-  column->addWidget(line);
-  pages_ = new QStackedWidget(card);
-  pages_->setContentsMargins(inside, theme.Space(Spacing::kSmall), inside, 0);
+  card->AddButton(binder_, window_->cmdwizard(1))->setProperty("accent", true);
+  card->AddButton(binder_, window_->cmdwizard(2));
+  card->AddButton(binder_, window_->cmdwizard(3));
   pages_->addWidget(new WheelLines(binder_, *window_, pages_));
   pages_->addWidget(new TemperatureTable(binder_, *window_, pages_));
-  column->addWidget(pages_, 1);
   return card;
 }
 
