@@ -60,6 +60,7 @@ void WheelUi::OpensFromMakeWheel() {
   QVERIFY(desk.Box(6)->isVisible());
   QVERIFY(!desk.Box(7)->isVisible());
   QCOMPARE(desk.Box(0)->text(), QStringLiteral("38"));
+  QCOMPARE(desk.Box(0)->accessibleDescription(), QStringLiteral("hot"));
   QVERIFY(desk.Find<QAbstractButton>("Label5")->isEnabled());
 }
 

@@ -45,6 +45,10 @@ void BallField::SetEditing(bool editing) {
 void BallField::SetBand(std::optional<Role> band) {
   if (band_ == band) return;
   band_ = band;
+  setAccessibleDescription(band == Role::kCold   ? QObject::tr("cold")
+                           : band == Role::kWarm ? QObject::tr("warm")
+                           : band == Role::kHot  ? QObject::tr("hot")
+                                                 : QString());
   Restyle();
 }
 

@@ -19,7 +19,8 @@ class BallField : public QLineEdit {
   void SetSize(int size);
   // While a field is not edited it shows its number only, and the Tab key passes over it.
   void SetEditing(bool editing);
-  // Fills the ball with the colour of a band and gives it the band's sign.
+  // Fills the ball with the colour of a band and gives it the band's sign; a screen reader hears
+  // its name.
   void SetBand(std::optional<Role> band);
 
   // Takes what was dropped on the field in the place of the field itself.
