@@ -9,6 +9,7 @@
 #include <array>
 
 #include "ui/theme/theme.h"
+#include "ui/windows/caption.h"
 #include "ui/windows/eliding_label.h"
 
 namespace ui {
@@ -25,13 +26,6 @@ constexpr int kFieldPadding = 22;
 constexpr int kIconSize = 18;
 
 int BallSize() { return std::max(kBallSize, Theme::Current().Scaled(kBallPerText)); }
-
-QLabel* MakeCaption(QWidget* parent, Qt::Alignment alignment) {
-  auto* const label = new QLabel(parent);
-  label->setProperty("caption", true);
-  label->setAlignment(alignment);
-  return label;
-}
 
 }  // namespace
 
@@ -66,7 +60,8 @@ QBoxLayout* DrawHeader::MakeBalls(Binder& binder) {
   for (int k = 0; k < kBalls; ++k) {
     auto* const column = new QVBoxLayout;
     column->setSpacing(theme.Space(Spacing::kTiny));
-    auto* const heading = MakeCaption(this, Qt::AlignCenter);
+    auto* const heading = MakeCaption(QString(), this);
+    heading->setAlignment(Qt::AlignCenter);
     binder.Bind(heading, window_->Label7(kHeadings[static_cast<std::size_t>(k)]));
     const bool bonus = k == kBonusBall;
     auto* const ball =
@@ -105,7 +100,7 @@ QBoxLayout* DrawHeader::MakeDate(Binder& binder) {
 
   auto* const date = new QVBoxLayout;
   date->setSpacing(theme.Space(Spacing::kTiny));
-  auto* const heading = MakeCaption(this, Qt::AlignLeft);
+  auto* const heading = MakeCaption(QString(), this);
   binder.Bind(heading, window_->Label7(kDateHeading));
   auto* const fields = new QHBoxLayout;
   fields->setSpacing(theme.Space(Spacing::kTiny));
@@ -118,8 +113,7 @@ QBoxLayout* DrawHeader::MakeDate(Binder& binder) {
 
   auto* const draw = new QVBoxLayout;
   draw->setSpacing(theme.Space(Spacing::kTiny));
-  auto* const draw_heading = MakeCaption(this, Qt::AlignLeft);
-  draw_heading->setText(tr("Draw"));
+  auto* const draw_heading = MakeCaption(tr("Draw"), this);
   draw->addWidget(draw_heading);
   draw->addWidget(
       MakeField(binder, window_->txtRecNum, tr("Draw number"), QStringLiteral("00000")));

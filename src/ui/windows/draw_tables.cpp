@@ -18,6 +18,7 @@
 #include <QVBoxLayout>
 
 #include "ui/theme/theme.h"
+#include "ui/windows/caption.h"
 #include "ui/windows/painting.h"
 
 namespace ui {
@@ -77,12 +78,6 @@ class DrawLine : public QStyledItemDelegate {
     return {LineWidth(), Theme::Current().Scaled(kListRowHeight)};
   }
 };
-
-QLabel* MakeCaption(const QString& text, QWidget* parent) {
-  auto* const label = new QLabel(text, parent);
-  label->setProperty("caption", true);
-  return label;
-}
 
 QVBoxLayout* MakeColumn(QWidget* parent) {
   auto* const column = new QVBoxLayout(parent);

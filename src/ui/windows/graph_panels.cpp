@@ -10,18 +10,13 @@
 #include <QVBoxLayout>
 
 #include "ui/theme/theme.h"
+#include "ui/windows/caption.h"
 
 namespace ui {
 namespace {
 
 constexpr int kNumbers = 6;
 constexpr int kFieldWidth = 46;
-
-QLabel* MakeCaption(const QString& text, QWidget* parent) {
-  auto* const label = new QLabel(text, parent);
-  label->setProperty("caption", true);
-  return label;
-}
 
 }  // namespace
 

@@ -14,6 +14,7 @@
 #include <algorithm>
 
 #include "ui/theme/theme.h"
+#include "ui/windows/caption.h"
 #include "ui/windows/number_slip.h"
 #include "ui/windows/tab_card.h"
 #include "ui/windows/wheel_tables.h"
@@ -27,14 +28,8 @@ constexpr int kBallPerText = 32;  // what a ball needs at the text size chosen
 constexpr int kBadge = 22;
 constexpr int kRowHeight = 24;
 constexpr int kGuideLines = 3;
-constexpr int kChoiceShare = 7;
+constexpr int kChoiceShare = 6;
 constexpr int kResultShare = 5;
-
-QLabel* MakeCaption(const QString& text, QWidget* parent) {
-  auto* const label = new QLabel(text, parent);
-  label->setProperty("caption", true);
-  return label;
-}
 
 // The runs of blanks in the guide's texts stand for a line break.
 QString GuideText(const std::string& caption) {
