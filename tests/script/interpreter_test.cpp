@@ -123,6 +123,26 @@ TEST(Interpreter, KeepGoingEndsAtAWrongLine) {
   EXPECT_EQ(played.out, "");
 }
 
+TEST(Interpreter, SearchesAnAnswerOfAnyLength) {
+  const std::string text(320'000, 'x');
+  const Played played = Play("start\npaste MainWindow.txtDate \"" + text +
+                             "\"\nexpect get MainWindow.txtDate ~ \"^.(((((x)))))*z\"\n");
+  EXPECT_EQ(played.status, 1);
+  EXPECT_EQ(played.err, "-:3: get MainWindow.txtDate is \"" + text +
+                            "\" and does not match \"^.(((((x)))))*z\"\n");
+}
+
+TEST(Interpreter, ASearchBeyondItsBoundsIsAWrongScript) {
+  const Played played = Play(
+      "setting a b c \"aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa!\"\n"
+      "expect setting a b c ~ \"^.(a+)+.$\"\n"
+      "beeps\n",
+      {"--keep-going"});
+  EXPECT_EQ(played.status, 2);
+  EXPECT_EQ(played.err,
+            "-:2: the regular expression takes too many steps on this answer: ^.(a+)+.$\n");
+}
+
 TEST(Interpreter, DuringRunsNestedInTheYield) {
   const Played played = Play(
       "start\n"
