@@ -60,16 +60,16 @@ void QueueAnswers(Stage& stage, const Arguments& words) {
   for (int n = 0; n < words.Count(); ++n) {
     const std::optional<base::Answer> answer = AnswerNamed(words.At(n).text);
     if (!answer) throw WrongScript("no answer to a box: " + words.At(n).text);
-    stage.ports.boxes.answers.push_back(*answer);
+    stage.ports.boxes.answers.push_back({*answer, stage.line});
   }
 }
 
 void QueueInput(Stage& stage, const Arguments& words) {
   words.Demand(1);
   if (words.At(0) == Word{"cancel"}) {
-    stage.ports.boxes.inputs.push_back(std::nullopt);
+    stage.ports.boxes.inputs.push_back({std::nullopt, stage.line});
   } else {
-    stage.ports.boxes.inputs.push_back(words.Text(0));
+    stage.ports.boxes.inputs.push_back({words.Text(0), stage.line});
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <istream>
+#include <map>
 #include <ostream>
 
 #include "base/controls/user.h"
@@ -31,19 +32,22 @@ void DemandCommand(std::string_view line) {
 
 int Interpreter::Run(std::istream& script) {
   status_ = kWholeScriptRan;
-  std::string line;
   try {
-    for (int number = 1; std::getline(script, line); ++number) {
-      std::string_view text = line;
-      if (number == 1 && text.starts_with(kByteOrderMark)) {
-        text.remove_prefix(kByteOrderMark.size());
-      }
-      if (!IsPassedOver(text)) RunLine(text, number);
-    }
+    RunLines(script);
+    if (rules_.strict) TellUnused();
   } catch (const RunEnded&) {
     // The reason has been told.
   }
   return status_;
+}
+
+void Interpreter::RunLines(std::istream& script) {
+  std::string line;
+  for (int number = 1; std::getline(script, line); ++number) {
+    std::string_view text = line;
+    if (number == 1 && text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+    if (!IsPassedOver(text)) RunLine(text, number);
+  }
 }
 
 void Interpreter::RunLine(std::string_view line, int number) {
@@ -60,6 +64,7 @@ void Interpreter::RunLine(std::string_view line, int number) {
 
 void Interpreter::Execute(std::string_view line, int number) {
   DemandCommand(line);
+  stage_.line = number;
   WordReader reader(line);
   const Word command = *reader.Next();
   if (command.text == "during") return During(reader, number);
@@ -75,7 +80,7 @@ void Interpreter::During(WordReader& reader, int number) {
   if (!n || *n < 1) throw WrongScript("during needs the number of a yield, from 1");
   DemandCommand(reader.Rest());
   stage_.ports.pump.InYield(
-      *n, [this, line = std::string(reader.Rest()), number] { RunLine(line, number); });
+      *n, [this, line = std::string(reader.Rest()), number] { RunLine(line, number); }, number);
 }
 
 void Interpreter::Expect(std::string_view text, int number) {
@@ -92,10 +97,27 @@ Json Interpreter::Ask(const Arguments& words) {
   return question(stage_, words);
 }
 
-void Interpreter::Tell(int number, const std::string& why, ExitStatus status) {
+void Interpreter::TellUnused() {
+  std::multimap<int, std::string> unused;
+  for (const int line : stage_.ports.pump.Waiting()) unused.emplace(line, "this during never ran");
+  for (const auto& [answer, line] : stage_.ports.boxes.answers) {
+    unused.emplace(line, std::string("nothing took the answer ") + Name(answer));
+  }
+  for (const auto& [input, line] : stage_.ports.boxes.inputs) {
+    unused.emplace(line, "nothing took the input " + (input ? TextJson(*input).dump() : "cancel"));
+  }
+  for (const auto& [line, why] : unused) TellAt(line, why);
+  if (!unused.empty()) status_ = std::max<int>(status_, kExpectFailed);
+}
+
+void Interpreter::TellAt(int number, const std::string& why) {
   err_ << file_ << ':' << number << ": " << why << std::endl;
+}
+
+void Interpreter::Tell(int number, const std::string& why, ExitStatus status) {
+  TellAt(number, why);
   status_ = std::max(status_, static_cast<int>(status));
-  if (status == kScriptWrong || !keep_going_) throw RunEnded();
+  if (status == kScriptWrong || !rules_.keep_going) throw RunEnded();
 }
 
 }  // namespace script

@@ -16,14 +16,19 @@ enum ExitStatus : int {
   kScriptWrong = 2,
 };
 
+// How strictly a script is held.
+struct Rules {
+  bool keep_going = false;  // a failed expect does not end the run
+  bool strict = false;      // what was queued has to be used
+};
+
 // Plays a script on a stage, line by line.
 class Interpreter {
  public:
   // `file` is the script's name in messages. Answers to questions go to `out`, one line of JSON
-  // each; what is wrong goes to `err` as "FILE:LINE: why". With keep_going a failed expect does not
-  // end the run.
-  Interpreter(Stage& stage, std::string file, bool keep_going, std::ostream& out, std::ostream& err)
-      : stage_(stage), file_(std::move(file)), keep_going_(keep_going), out_(out), err_(err) {}
+  // each; what is wrong goes to `err` as "FILE:LINE: why".
+  Interpreter(Stage& stage, std::string file, Rules rules, std::ostream& out, std::ostream& err)
+      : stage_(stage), file_(std::move(file)), rules_(rules), out_(out), err_(err) {}
 
   // Returns an ExitStatus.
   int Run(std::istream& script);
@@ -33,16 +38,21 @@ class Interpreter {
   // desk takes it.
   struct RunEnded {};
 
+  void RunLines(std::istream& script);
   void RunLine(std::string_view line, int number);
   void Execute(std::string_view line, int number);
   void During(WordReader& reader, int number);
   void Expect(std::string_view text, int number);
   Json Ask(const Arguments& words);
+  // Tells of each thing that was queued and never used, in the order of the lines.
+  void TellUnused();
+  // Tells, and ends the run if the status says so.
   void Tell(int number, const std::string& why, ExitStatus status);
+  void TellAt(int number, const std::string& why);
 
   Stage& stage_;
   const std::string file_;
-  const bool keep_going_;
+  const Rules rules_;
   std::ostream& out_;
   std::ostream& err_;
   int status_ = kWholeScriptRan;

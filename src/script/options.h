@@ -16,6 +16,7 @@ struct Options {
   std::string alternative;
   base::DateOrder date_order = base::DateOrder::kMonthFirst;
   bool keep_going = false;
+  bool strict = false;
   bool help = false;
   bool version = false;
 };

@@ -29,8 +29,8 @@ std::vector<Answer> AnswersOf(base::BoxButtons buttons) {
 }
 
 template <typename T>
-T TakeFirst(std::deque<T>& queue) {
-  T first = std::move(queue.front());
+T TakeFirst(std::deque<Queued<T>>& queue) {
+  T first = std::move(queue.front().value);
   queue.pop_front();
   return first;
 }
@@ -61,12 +61,18 @@ void ScriptedPump::Pump() {
   ++yields_;
   while (!actions_.empty() && actions_.begin()->first <= yields_) {
     const auto action = actions_.extract(actions_.begin()).mapped();
-    action();
+    action.value();
   }
 }
 
-void ScriptedPump::InYield(int n, std::function<void()> action) {
-  actions_.emplace(yields_ + n, std::move(action));
+void ScriptedPump::InYield(int n, std::function<void()> action, int line) {
+  actions_.emplace(yields_ + n, Queued<std::function<void()>>{std::move(action), line});
+}
+
+std::vector<int> ScriptedPump::Waiting() const {
+  std::vector<int> lines;
+  for (const auto& [yield, action] : actions_) lines.push_back(action.line);
+  return lines;
 }
 
 base::DateTime ScriptedClock::Now() {

@@ -15,6 +15,13 @@
 
 namespace script {
 
+// What waits for its turn, and the line of the script that queued it.
+template <typename T>
+struct Queued {
+  T value;
+  int line = 0;
+};
+
 // A message or input box that was shown, and how it was answered.
 struct ShownBox {
   bool is_input = false;
@@ -32,8 +39,8 @@ class ScriptedBoxes : public base::MessageBoxes {
   // With nothing queued the box is confirmed with its default text.
   std::optional<std::string> Input(const base::InputBox& box) override;
 
-  std::deque<base::Answer> answers;
-  std::deque<std::optional<std::string>> inputs;  // nothing presses Cancel
+  std::deque<Queued<base::Answer>> answers;
+  std::deque<Queued<std::optional<std::string>>> inputs;  // nothing presses Cancel
   std::vector<ShownBox> shown;
 };
 
@@ -41,12 +48,14 @@ class ScriptedBoxes : public base::MessageBoxes {
 class ScriptedPump : public base::EventPump {
  public:
   void Pump() override;
-  // Runs the action in the nth yield from now; 1 is the next one.
-  void InYield(int n, std::function<void()> action);
+  // Runs the action of a line of the script in the nth yield from now; 1 is the next one.
+  void InYield(int n, std::function<void()> action, int line);
+  // The lines of the actions whose yield has not come.
+  std::vector<int> Waiting() const;
 
  private:
   std::int64_t yields_ = 0;
-  std::multimap<std::int64_t, std::function<void()>> actions_;
+  std::multimap<std::int64_t, Queued<std::function<void()>>> actions_;
 };
 
 // The machine's local time, or a time at which the clock stands.

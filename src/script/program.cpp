@@ -29,7 +29,8 @@ int Play(const Options& options, std::istream& script, std::ostream& out, std::o
       base::ToDeskPath(folders.ProgramFolder().string()));
   stage.ports.region.order = options.date_order;
   const std::string name = options.script.empty() ? "-" : options.script;
-  return Interpreter(stage, name, options.keep_going, out, err).Run(script);
+  const Rules rules{.keep_going = options.keep_going, .strict = options.strict};
+  return Interpreter(stage, name, rules, out, err).Run(script);
 }
 
 int PlayFile(const Options& options, std::ostream& out, std::ostream& err) {

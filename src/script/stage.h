@@ -26,6 +26,7 @@ class Stage {
         settings_(open_settings_()) {}
 
   ScriptedPorts ports;
+  int line = 0;  // of the script, the one that is played
   base::FileSystem& Files() { return files_; }
   base::Settings& Settings() { return *settings_; }
   // A path of the desk below the program folder.

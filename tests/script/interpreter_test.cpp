@@ -214,6 +214,65 @@ TEST(Interpreter, AnAnswerWithoutAButtonIsWrong) {
             "continue.\n");
 }
 
+TEST(Interpreter, StrictTellsWhatWasQueuedAndNeverUsed) {
+  const std::string script =
+      "during 2000 beeps\n"
+      "start\n"
+      "input \"7 \\u00a3\"\n"
+      "answer no yes\n"
+      "input cancel\n"
+      "during 1000 during 1 beeps\n";
+  EXPECT_EQ(Play(script).status, 0);
+  EXPECT_EQ(Play(script).err, "");
+  const Played played = Play(script, {"--strict"});
+  EXPECT_EQ(played.status, 1);
+  EXPECT_EQ(played.err,
+            "-:1: this during never ran\n"
+            "-:3: nothing took the input \"7 \xC2\xA3\"\n"
+            "-:4: nothing took the answer no\n"
+            "-:4: nothing took the answer yes\n"
+            "-:5: nothing took the input cancel\n"
+            "-:6: this during never ran\n");
+}
+
+TEST(Interpreter, StrictIsContentWhenAllWasUsed) {
+  const Played played = Play(
+      "start\n"
+      "during 30 answer ok\n"
+      "click MainWindow.CmdScan\n"
+      "expect boxes ~ \"right click the graph.*\\\"answer\\\":\\\"ok\\\"\"\n",
+      {"--strict"});
+  EXPECT_EQ(played.err, "");
+  EXPECT_EQ(played.status, 0);
+}
+
+TEST(Interpreter, ASecondStartForgetsNothingThatWasQueued) {
+  const Played played = Play(
+      "start\n"
+      "answer no\n"
+      "during 1000000 beeps\n"
+      "stop\n"
+      "start\n"
+      "click MainWindow.cmdLast\n"
+      "click MainWindow.CmdScan\n"
+      "expect boxes ~ \"\\\"answer\\\":\\\"no\\\"\"\n",
+      {"--strict"});
+  EXPECT_EQ(played.status, 1);
+  EXPECT_EQ(played.err, "-:3: this during never ran\n");
+}
+
+TEST(Interpreter, AnEarlierFailureWinsOverWhatIsLeft) {
+  Played played = Play("answer no\ndance\n", {"--strict"});
+  EXPECT_EQ(played.status, 2);
+  EXPECT_EQ(played.err, "-:2: unknown command: dance\n");
+  played = Play("answer no\nexpect beeps = 1\n", {"--strict"});
+  EXPECT_EQ(played.status, 1);
+  EXPECT_EQ(played.err, "-:2: beeps is 0 and not 1\n");
+  played = Play("answer no\nexpect beeps = 1\n", {"--strict", "--keep-going"});
+  EXPECT_EQ(played.status, 1);
+  EXPECT_EQ(played.err, "-:2: beeps is 0 and not 1\n-:1: nothing took the answer no\n");
+}
+
 TEST(Interpreter, PicksByNumberAndByText) {
   const Played played = Play(
       "start\n"

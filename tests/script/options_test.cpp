@@ -14,17 +14,20 @@ TEST(Options, Defaults) {
   EXPECT_EQ(options.settings, "");
   EXPECT_EQ(options.date_order, base::DateOrder::kMonthFirst);
   EXPECT_FALSE(options.keep_going);
+  EXPECT_FALSE(options.strict);
 }
 
 TEST(Options, AreReadInBothForms) {
-  const Options options =
-      ReadOptions({"--folder", "a", "--settings=b", "week.desk", "--date-order", "uk",
-                   "--keep-going", "--primary=ftp://u:p@h:1", "--alternative", "ftp://u:p@h:2"});
+  const Options options = ReadOptions({"--folder", "a", "--settings=b", "week.desk", "--date-order",
+                                       "uk", "--keep-going", "--strict", "--primary=ftp://u:p@h:1",
+                                       "--alternative", "ftp://u:p@h:2"});
   EXPECT_EQ(options.folder, "a");
   EXPECT_EQ(options.settings, "b");
   EXPECT_EQ(options.script, "week.desk");
   EXPECT_EQ(options.date_order, base::DateOrder::kDayFirst);
   EXPECT_TRUE(options.keep_going);
+  EXPECT_TRUE(options.keep_going);
+  EXPECT_TRUE(options.strict);
   EXPECT_EQ(options.primary, "ftp://u:p@h:1");
   EXPECT_EQ(options.alternative, "ftp://u:p@h:2");
 }
@@ -40,6 +43,7 @@ TEST(Options, RefuseWhatTheyDoNotKnow) {
       {"a", "b"},
       {"--primary", "http://h"},
       {"--keep-going=yes"},
+      {"--strict=yes"},
   };
   for (const auto& row : table) EXPECT_THROW(ReadOptions(row), WrongScript) << row.front();
 }

@@ -9,7 +9,7 @@ namespace {
 
 TEST(ScriptedBoxes, TakeTheirAnswersInTurnAndThenTheDefault) {
   ScriptedBoxes boxes;
-  boxes.answers = {base::Answer::kNo};
+  boxes.answers = {{base::Answer::kNo}};
   const base::MessageBox question{.text = "Sure?", .buttons = base::BoxButtons::kYesNo};
   EXPECT_EQ(boxes.Ask(question), base::Answer::kNo);
   EXPECT_EQ(boxes.Ask(question), base::Answer::kYes);
@@ -19,13 +19,13 @@ TEST(ScriptedBoxes, TakeTheirAnswersInTurnAndThenTheDefault) {
 
 TEST(ScriptedBoxes, AnAnswerWithoutAButtonIsAWrongScript) {
   ScriptedBoxes boxes;
-  boxes.answers = {base::Answer::kNo};
+  boxes.answers = {{base::Answer::kNo}};
   EXPECT_THROW(boxes.Ask({.text = "Saved"}), WrongScript);
 }
 
 TEST(ScriptedBoxes, InputIsTypedCancelledOrConfirmed) {
   ScriptedBoxes boxes;
-  boxes.inputs = {"7", std::nullopt};
+  boxes.inputs = {{"7"}, {std::nullopt}};
   const base::InputBox box{.prompt = "How many?", .default_text = "1"};
   EXPECT_EQ(boxes.Input(box), "7");
   EXPECT_EQ(boxes.Input(box), std::nullopt);
@@ -35,13 +35,17 @@ TEST(ScriptedBoxes, InputIsTypedCancelledOrConfirmed) {
 TEST(ScriptedPump, RunsEachActionInItsYield) {
   ScriptedPump pump;
   std::string order;
+  const auto write = [&](const char* text) { return [&order, text] { order += text; }; };
   pump.Pump();
-  pump.InYield(2, [&] { order += "b"; });
-  pump.InYield(1, [&] {
-    order += "a";
-    pump.InYield(1, [&] { order += "c"; });
-  });
-  pump.InYield(2, [&] { order += "d"; });
+  pump.InYield(2, write("b"), 1);
+  pump.InYield(
+      1,
+      [&] {
+        order += "a";
+        pump.InYield(1, write("c"), 2);
+      },
+      2);
+  pump.InYield(2, write("d"), 3);
   pump.Pump();
   EXPECT_EQ(order, "a");
   pump.Pump();
@@ -50,15 +54,32 @@ TEST(ScriptedPump, RunsEachActionInItsYield) {
   EXPECT_EQ(order, "abdc");
 }
 
+TEST(ScriptedPump, TellsTheLinesThatWait) {
+  ScriptedPump pump;
+  pump.InYield(
+      2, [] {}, 7);
+  pump.InYield(
+      1, [] {}, 8);
+  pump.InYield(
+      2, [] {}, 9);
+  EXPECT_EQ(pump.Waiting(), (std::vector<int>{8, 7, 9}));
+  pump.Pump();
+  EXPECT_EQ(pump.Waiting(), (std::vector<int>{7, 9}));
+}
+
 TEST(ScriptedPump, CountsNestedYields) {
   ScriptedPump pump;
   std::string order;
-  pump.InYield(1, [&] {
-    order += "(";
-    pump.Pump();
-    order += ")";
-  });
-  pump.InYield(2, [&] { order += "nested"; });
+  pump.InYield(
+      1,
+      [&] {
+        order += "(";
+        pump.Pump();
+        order += ")";
+      },
+      1);
+  pump.InYield(
+      2, [&] { order += "nested"; }, 2);
   pump.Pump();
   EXPECT_EQ(order, "(nested)");
 }

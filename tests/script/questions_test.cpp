@@ -42,8 +42,8 @@ TEST_F(Questions, LogsArePrintedAndForgotten) {
 }
 
 TEST_F(Questions, BoxesTellHowTheyWereAnswered) {
-  stage_.ports.boxes.answers = {base::Answer::kCancel};
-  stage_.ports.boxes.inputs = {std::nullopt};
+  stage_.ports.boxes.answers = {{base::Answer::kCancel}};
+  stage_.ports.boxes.inputs = {{std::nullopt}};
   stage_.ports.boxes.Ask({.text = "Try again?",
                           .title = "Disk",
                           .icon = base::BoxIcon::kExclamation,
