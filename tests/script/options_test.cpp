@@ -32,6 +32,12 @@ TEST(Options, AreReadInBothForms) {
   EXPECT_EQ(options.alternative, "ftp://u:p@h:2");
 }
 
+TEST(Options, ServersMayBeSecure) {
+  const Options options = ReadOptions({"--primary=ftps://u:p@h:1", "--alternative", "ftps://h"});
+  EXPECT_EQ(options.primary, "ftps://u:p@h:1");
+  EXPECT_EQ(options.alternative, "ftps://h");
+}
+
 TEST(Options, ADashIsStandardInput) { EXPECT_EQ(ReadOptions({"-"}).script, ""); }
 
 TEST(Options, RefuseWhatTheyDoNotKnow) {
@@ -42,6 +48,8 @@ TEST(Options, RefuseWhatTheyDoNotKnow) {
       {"--date-order", "fr"},
       {"a", "b"},
       {"--primary", "http://h"},
+      {"--primary", "ftpss://h"},
+      {"--alternative", "sftp://h"},
       {"--keep-going=yes"},
       {"--strict=yes"},
   };
