@@ -120,7 +120,8 @@ void HitCheck::WriteHead(Page& page) const {
   page.Line("<div align=\"center\">");
   page.Line(kTable, "table2\">");
   page.Line("<tr>");
-  page.Line("<td bgcolor=\"#00FFFF\"><b>Numbers checked:</b> ", place_.state.win_numbers, "</td>");
+  page.Line("<td bgcolor=\"#00FFFF\"><b>Numbers checked:</b> ", PageText(place_.state.win_numbers),
+            "</td>");
   page.Line("</tr>");
   page.Line("</table>");
   page.Line(kTable, "table1\">");
@@ -139,7 +140,7 @@ void HitCheck::WriteRow(Page& page, int line) {
   page.Line(state.total_hits < kHitsToStandOut ? "<tr align=\"center\">"
                                                : "<tr align=\"center\" bgcolor = \"#F5F5F5\">");
   page.Line("<td width=\"35\">", dolenth(base::ToInt16(line)), "</td>");
-  page.Line("<td width=\"150\" nowrap>", GetCurrentLine(line), "</td>");
+  page.Line("<td width=\"150\" nowrap>", PageText(GetCurrentLine(line)), "</td>");
   page.Line("<td width=\"120\">", state.hit_position, "</td>");
   page.Line("<td width=\"90\">", base::IntegerText(state.total_hits), "</td>");
   page.Line("<td width=\"150\" align=\"left\">", state.hit_numbers, "</td>");

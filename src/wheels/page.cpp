@@ -15,6 +15,22 @@ void Page::Footer() {
   Line("</html>");  // the page ends with this tag twice
 }
 
+std::string PageText(std::string_view text) {
+  std::string escaped;
+  for (const char sign : text) {
+    if (sign == '&') {
+      escaped += "&amp;";
+    } else if (sign == '<') {
+      escaped += "&lt;";
+    } else if (sign == '>') {
+      escaped += "&gt;";
+    } else {
+      escaped += sign;
+    }
+  }
+  return escaped;
+}
+
 std::string ReportPath(const std::string& program_folder, std::string_view name,
                        base::Clock& clock) {
   using base::IntegerText;

@@ -26,6 +26,10 @@ class Page {
   std::string text_;
 };
 
+// A text that somebody typed or that stands in a file, to be read on a page as it is written there:
+// without a meaning of its own for the ampersand and the angle brackets.
+std::string PageText(std::string_view text);
+
 // "<folder>\Reports\<name>D-M-YYYY-H-M-S.html": plain numbers, each part its own look at the clock.
 std::string ReportPath(const std::string& program_folder, std::string_view name,
                        base::Clock& clock);

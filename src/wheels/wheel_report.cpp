@@ -24,7 +24,7 @@ void Heading(Page& page, const std::string& name) {
   page.Line("<td bgcolor=\"#00FFFF\"><b>Quorbit Number Desk 2005</b></td>");
   page.Line("</tr>");
   page.Line("<tr>");
-  page.Line("<td bgcolor=\"#FFFFFF\">", name, "</td>");
+  page.Line("<td bgcolor=\"#FFFFFF\">", PageText(name), "</td>");
   page.Line("</tr>");
   page.Line("</table>");
 }
@@ -61,7 +61,7 @@ void Facts(Page& page, const WheelState& wheel) {
   Fact(page, "Tickets: ", wheel.wheel_tickets, "Amount of lines, equals the cost of this wheel");
   page.Line("<tr>");
   page.Line("<td width=\"110\">Wheeled:</td>");
-  page.Line("<td width=\"380\">", WheeledNumbers(wheel), "</td>");
+  page.Line("<td width=\"380\">", PageText(WheeledNumbers(wheel)), "</td>");
   page.Line("</tr>");
   page.Line("</table>");
 }
@@ -76,7 +76,7 @@ void Lines(Page& page, const std::vector<std::string>& lines) {
   page.Line("<tr align=\"center\">");
   page.Line("<td bgcolor=\"#F5F5F5\">");
   for (const std::string& line : lines) {
-    page.Line(ReplaceFirst(line, "  ", " ", kMostDoubleBlanks), " <br>");
+    page.Line(PageText(ReplaceFirst(line, "  ", " ", kMostDoubleBlanks)), " <br>");
   }
   page.Line("</td>");
   page.Line("</tr>");

@@ -339,5 +339,17 @@ TEST(HitCheck, ABlankCellLeavesHalfAPage) {
   EXPECT_TRUE(desk.shell_open.opened.empty());
 }
 
+// No number is markup, so a row with markup in it never comes to the page.
+TEST(HitCheck, ACellOfMarkupLeavesHalfAPage) {
+  CheckDesk desk;
+  desk.User().Paste(desk.Box(0), "<img/src=x>");
+  desk.NewLines({"2 3 4 5 6 7", "1 2 3 4 5 6"});
+  desk.Check("<i>12 & 13</i> 14 1 2 3");
+  EXPECT_EQ(desk.TakeBoxTexts(), Texts{"Run-time error '13':\r\n\r\nType mismatch"});
+  EXPECT_EQ(desk.ReadFile(kPage),
+            Head("12 13 14 1 2 3") +
+                RowText("001", "12  13  14  15  16  17 ", {"1 1 1 0 0 0", "12 13 14 ", 3}));
+}
+
 }  // namespace
 }  // namespace test

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/deployment.h"
+#include "wheels/page.h"
 #include "wheels/wheel_desk.h"
 
 namespace test {
@@ -31,7 +32,8 @@ std::string Lines(const Texts& lines) {
 }
 
 // The page of a wheel of seven places, from its wheeled numbers and its lines.
-std::string Expected(const std::string& wheeled, const Texts& lines) {
+std::string Expected(const std::string& wheeled, const Texts& lines,
+                     const std::string& name = "[3 of 6]  7 numbers") {
   const std::string table =
       "<table border=\"1\" cellspacing=\"1\" style=\"border-collapse: collapse\" width=\"500\"";
   const auto fact = [](const std::string& name, const std::string& meaning) {
@@ -51,7 +53,7 @@ std::string Expected(const std::string& wheeled, const Texts& lines) {
       "<td bgcolor=\"#00FFFF\"><b>Quorbit Number Desk 2005</b></td>",
       "</tr>",
       "<tr>",
-      "<td bgcolor=\"#FFFFFF\">[3 of 6]  7 numbers</td>",
+      "<td bgcolor=\"#FFFFFF\">" + name + "</td>",
       "</tr>",
       "</table>",
       table + " id=\"table4\">",
@@ -125,6 +127,31 @@ TEST(WheelReport, AnEmptyEntryIsALineOfItsOwn) {
   desk.Print();
   EXPECT_EQ(desk.ReadFile(kPage),
             Expected(" 11  12  13  14  15  16  17 ", {" <br>", "\t11 \t12  <br>"}));
+}
+
+TEST(PageText, EscapesAmpersandsAndAngleBracketsAlone) {
+  EXPECT_EQ(wheels::PageText("a<b>&c"), "a&lt;b&gt;&amp;c");
+  EXPECT_EQ(wheels::PageText("&lt;"), "&amp;lt;");
+  std::string others;
+  for (int sign = 0; sign < 256; ++sign) {
+    if (sign != '&' && sign != '<' && sign != '>') others += static_cast<char>(sign);
+  }
+  EXPECT_EQ(wheels::PageText(others), others);
+}
+
+TEST(WheelReport, ShowsWhatWasTypedAndIsNoMarkup) {
+  WheelText wheel = SixWheel(7, {"1 2", "2 3"});
+  wheel.name = "[3 of 6] 7 <script>alert(1)</script> & \"\xA3'";
+  WheelDesk desk(std::vector<WheelText>{wheel});
+  desk.Open();
+  desk.User().Pick(desk.Window().List2, 0);
+  desk.SetBoxes({"11", "<img src=x onerror=alert(2)>", "&amp;"});
+  desk.User().Click(desk.Window().cmdwizard(2));
+  EXPECT_EQ(desk.ReadFile(kPage),
+            Expected(" 11  &lt;img src=x onerror=alert(2)&gt;  &amp;amp;         ",
+                     {"\t&lt;img \tsrc=x \tonerror=alert(2)&gt; \t&amp;amp;  <br>",
+                      "\t11 \t&lt;img \tsrc=x \tonerror=alert(2)&gt;  <br>"},
+                     "[3 of 6] 7 &lt;script&gt;alert(1)&lt;/script&gt; &amp; \"\xA3'"));
 }
 
 // The eighth piece of a line holds the rest, with the blanks between its numbers.
