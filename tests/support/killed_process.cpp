@@ -1,7 +1,6 @@
 #include "support/killed_process.h"
 
 #include <signal.h>
-#include <sys/ptrace.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -10,13 +9,13 @@
 #include <exception>
 #include <system_error>
 
+#include "support/system_calls.h"
+
 namespace test {
 namespace {
 
 constexpr int kExitDone = 0;
 constexpr int kExitFailed = 1;
-constexpr int kExitNotAllowed = 2;
-constexpr int kSystemCallStop = SIGTRAP | 0x80;
 
 // The copy leaves without destructors and checks at exit: these are the original's.
 [[noreturn]] void Work(const std::function<bool()>& work) {
@@ -29,58 +28,21 @@ constexpr int kSystemCallStop = SIGTRAP | 0x80;
   _exit(code);
 }
 
-[[noreturn]] void WorkWatched(const std::function<void()>& prepare,
-                              const std::function<bool()>& work) {
-  Work([&] {
-    prepare();
-    if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) _exit(kExitNotAllowed);
-    raise(SIGSTOP);
-    return work();
-  });
-}
-
 pid_t Forked() {
   const pid_t child = fork();
   if (child < 0) throw std::system_error(errno, std::generic_category(), "fork");
   return child;
 }
 
-int StatusOf(pid_t child) {
+Ending EndingOf(pid_t child, int deadly_signal) {
   int status = 0;
   while (waitpid(child, &status, 0) < 0) {
     if (errno != EINTR) throw std::system_error(errno, std::generic_category(), "waitpid");
   }
-  return status;
-}
-
-Ending EndingOf(int status, int deadly_signal) {
   if (WIFSIGNALED(status)) {
     return WTERMSIG(status) == deadly_signal ? Ending::kKilled : Ending::kFailed;
   }
-  switch (WEXITSTATUS(status)) {
-    case kExitDone:
-      return Ending::kDone;
-    case kExitNotAllowed:
-      return Ending::kNotAllowed;
-    default:
-      return Ending::kFailed;
-  }
-}
-
-Ending Kill(pid_t child) {
-  kill(child, SIGKILL);
-  return EndingOf(StatusOf(child), SIGKILL);
-}
-
-// Lets the child run to its next stop. A signal that is no stop of ours is delivered to it.
-int StepToNextStop(pid_t child) {
-  long signal = 0;
-  while (true) {
-    if (ptrace(PTRACE_SYSCALL, child, nullptr, signal) != 0) kill(child, SIGKILL);
-    const int status = StatusOf(child);
-    if (!WIFSTOPPED(status) || WSTOPSIG(status) == kSystemCallStop) return status;
-    signal = WSTOPSIG(status);
-  }
+  return WEXITSTATUS(status) == kExitDone ? Ending::kDone : Ending::kFailed;
 }
 
 }  // namespace
@@ -88,18 +50,16 @@ int StepToNextStop(pid_t child) {
 Ending KillAtMoment(int moment, const std::function<void()>& prepare,
                     const std::function<bool()>& work) {
   const pid_t child = Forked();
-  if (child == 0) WorkWatched(prepare, work);
-  int status = StatusOf(child);
-  if (!WIFSTOPPED(status)) return EndingOf(status, 0);
-  if (ptrace(PTRACE_SETOPTIONS, child, nullptr, PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL) != 0) {
-    Kill(child);
-    return Ending::kNotAllowed;
+  if (child == 0) {
+    Work([&] {
+      prepare();
+      SystemCalls calls;
+      const int call = moment / 2 + 1;
+      moment % 2 == 0 ? calls.KillBefore(call) : calls.KillAfter(call);
+      return work();
+    });
   }
-  for (int passed = 0; passed < moment; ++passed) {
-    status = StepToNextStop(child);
-    if (!WIFSTOPPED(status)) return EndingOf(status, 0);
-  }
-  return Kill(child);
+  return EndingOf(child, SIGKILL);
 }
 
 Ending KillBeyondFileSize(std::int64_t size, const std::function<bool()>& work) {
@@ -111,7 +71,7 @@ Ending KillBeyondFileSize(std::int64_t size, const std::function<bool()>& work) 
     setrlimit(RLIMIT_FSIZE, &end);
     Work(work);
   }
-  return EndingOf(StatusOf(child), SIGXFSZ);
+  return EndingOf(child, SIGXFSZ);
 }
 
 }  // namespace test

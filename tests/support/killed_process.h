@@ -7,15 +7,14 @@ namespace test {
 
 // How a piece of work ended that ran in a process of its own, a copy of this one.
 enum class Ending {
-  kKilled,      // where it was to be
-  kDone,        // it came to its end before, and returned true
-  kFailed,      // it returned false, threw, or died of something else
-  kNotAllowed,  // this machine lets no process be watched by another
+  kKilled,  // where it was to be
+  kDone,    // it came to its end before, and returned true
+  kFailed,  // it returned false, threw, or died of something else
 };
 
-// Runs `prepare` and then `work` in a copy of this process. Kills it with SIGKILL at one moment of
-// `work`: 0 is its beginning, from there on every system call counts two, one before the call has
-// done anything and one right after it.
+// Runs `prepare` and then `work` in a copy of this process, which kills itself with SIGKILL at one
+// moment of `work`. Every file call of it counts two: an even moment is right before a call has
+// done anything (0 is the first), the odd one behind it right after.
 Ending KillAtMoment(int moment, const std::function<void()>& prepare,
                     const std::function<bool()>& work);
 
