@@ -26,6 +26,15 @@ constexpr int kMostLinks = 40;
 // Positions in the desk's files are 32 bits wide; no text of the desk is longer.
 constexpr off_t kLongestText = std::numeric_limits<std::int32_t>::max();
 
+// A call of the host, made again as long as a signal interrupts it: disks behind a network or a
+// program answer so to every kind of call.
+template <typename Call>
+auto Retried(Call call) {
+  auto result = call();
+  while (result < 0 && errno == EINTR) result = call();
+  return result;
+}
+
 // A file descriptor that closes itself.
 class Descriptor {
  public:
@@ -78,7 +87,8 @@ std::string FolderOf(const std::string& host_path) {
 
 bool HasMode(const std::string& host_path, mode_t mode) {
   struct stat status {};
-  return stat(host_path.c_str(), &status) == 0 && (status.st_mode & S_IFMT) == mode;
+  return Retried([&] { return stat(host_path.c_str(), &status); }) == 0 &&
+         (status.st_mode & S_IFMT) == mode;
 }
 
 // A missing file is one thing, a missing folder on the way to it another.
@@ -90,13 +100,6 @@ bool HasMode(const std::string& host_path, mode_t mode) {
 // A file that was to come into being cannot be what is missing.
 [[noreturn]] void FailToCreate(int host_error, const std::string& host_path) {
   Throw(host_error == ENOENT ? kPathNotFound : ClassicNumber(host_error), host_error, host_path);
-}
-
-template <typename Call>
-auto Retried(Call call) {
-  auto result = call();
-  while (result < 0 && errno == EINTR) result = call();
-  return result;
 }
 
 int OpenHost(const std::string& host_path, int flags, mode_t mode = 0) {
@@ -114,6 +117,10 @@ bool WriteAt(int descriptor, off_t offset, std::string_view bytes) {
     offset += written;
   }
   return true;
+}
+
+bool Unlink(const std::string& path) {
+  return Retried([&] { return unlink(path.c_str()); }) == 0;
 }
 
 bool Flush(int descriptor) {
@@ -138,7 +145,7 @@ std::string ReadFrom(int descriptor, off_t offset, std::size_t count, const std:
 
 off_t LengthOf(int descriptor, const std::string& path) {
   struct stat status {};
-  if (fstat(descriptor, &status) != 0) Fail(errno, path);
+  if (Retried([&] { return fstat(descriptor, &status); }) != 0) Fail(errno, path);
   if (S_ISDIR(status.st_mode)) Fail(EISDIR, path);
   return status.st_size;
 }
@@ -171,9 +178,14 @@ class HostFile : public File {
 std::string LinkTarget(const std::string& path) {
   std::filesystem::path target(path);
   for (int links = 0; links < kMostLinks; ++links) {
-    std::error_code no_link;
-    const std::filesystem::path next = std::filesystem::read_symlink(target, no_link);
-    if (no_link) break;
+    std::error_code error;
+    const std::filesystem::path next = std::filesystem::read_symlink(target, error);
+    if (error == std::errc::interrupted) continue;
+    if (error == std::errc::invalid_argument || error == std::errc::no_such_file_or_directory) {
+      break;  // no link, or nothing at all
+    }
+    // It may be a link, and a file that was renamed over it would hide the one behind it.
+    if (error) Fail(error.value(), target.string());
     target = target.parent_path() / next;
   }
   return target.string();
@@ -183,13 +195,15 @@ std::string LinkTarget(const std::string& path) {
 // replaced: a new one beside it could be renamed over a file that its owner has write-protected.
 std::optional<mode_t> ModeToReplace(const std::string& path) {
   struct stat status {};
-  if (stat(path.c_str(), &status) != 0) {
+  if (Retried([&] { return stat(path.c_str(), &status); }) != 0) {
     if (errno == ENOENT) return std::nullopt;
     Fail(errno, path);
   }
   if (S_ISDIR(status.st_mode)) Fail(EISDIR, path);
   if (!S_ISREG(status.st_mode)) Fail(EOPNOTSUPP, path);
-  if (faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) Fail(errno, path);
+  if (Retried([&] { return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS); }) != 0) {
+    Fail(errno, path);
+  }
   return status.st_mode & 07777;
 }
 
@@ -197,7 +211,7 @@ std::optional<mode_t> ModeToReplace(const std::string& path) {
 int OpenAnew(const std::string& path, mode_t mode) {
   constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL;
   const int descriptor = OpenHost(path, kFlags, mode);
-  if (descriptor >= 0 || errno != EEXIST || unlink(path.c_str()) != 0) return descriptor;
+  if (descriptor >= 0 || errno != EEXIST || !Unlink(path)) return descriptor;
   return OpenHost(path, kFlags, mode);
 }
 
@@ -246,12 +260,13 @@ void HostFileSystem::Replace(const std::string& path, std::string_view bytes) {
     const Descriptor file(OpenAnew(beside, mode.value_or(kNewFileMode)));
     if (!file.IsOpen()) FailToCreate(errno, target);
     // What the process withholds from new files, an old one keeps. Not every disk knows modes.
-    if (mode) (void)fchmod(file.Number(), *mode);
+    if (mode) (void)Retried([&] { return fchmod(file.Number(), *mode); });
     if (!WriteAt(file.Number(), 0, bytes) || !Flush(file.Number())) host_error = errno;
   }
-  if (host_error == 0 && rename(beside.c_str(), target.c_str()) != 0) host_error = errno;
+  const auto put_in_place = [&] { return rename(beside.c_str(), target.c_str()); };
+  if (host_error == 0 && Retried(put_in_place) != 0) host_error = errno;
   if (host_error != 0) {
-    unlink(beside.c_str());
+    Unlink(beside);
     Fail(host_error, target);
   }
   FlushFolderOf(target);
@@ -259,7 +274,7 @@ void HostFileSystem::Replace(const std::string& path, std::string_view bytes) {
 
 void HostFileSystem::Remove(const std::string& path) {
   const std::string host_path = ResolveHostPath(path);
-  if (unlink(host_path.c_str()) != 0) Fail(errno, host_path);
+  if (!Unlink(host_path)) Fail(errno, host_path);
 }
 
 std::vector<std::string> HostFileSystem::List(const std::string& folder,

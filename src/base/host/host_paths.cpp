@@ -3,9 +3,12 @@
 #include <dirent.h>
 #include <sys/stat.h>
 
+#include <cerrno>
+#include <cstring>
 #include <memory>
 
 #include "base/language/code_page.h"
+#include "base/language/error.h"
 #include "base/language/text.h"
 
 namespace base {
@@ -17,10 +20,29 @@ bool Exists(const std::string& path) {
   return lstat(path.c_str(), &status) == 0;
 }
 
+using Listing = std::unique_ptr<DIR, int (*)(DIR*)>;
+
+// The names in a folder, none where there is no folder or it may not be listed. Of a disk that
+// fails nobody can say how it spells a name, and a new file beside the old one would hide it.
+Listing ListingOf(const std::string& folder) {
+  Listing listing(opendir(folder.c_str()), closedir);
+  while (!listing && errno == EINTR) listing.reset(opendir(folder.c_str()));
+  if (listing) return listing;
+  const int host_error = errno;
+  for (const int silent : {ENOENT, ENOTDIR, EACCES, ELOOP, ENAMETOOLONG}) {
+    if (host_error == silent) return listing;
+  }
+  const Error error(kPathAccess, Error(kPathAccess).Description() + ": " +
+                                     FromUtf8(std::strerror(host_error)) + ", " +
+                                     ToDeskPath(folder));
+  errno = host_error;  // which the error reporter tells
+  throw error;
+}
+
 // The spelling of `name` (desk text) in a folder that spells it otherwise, the first in order of
 // bytes if there are several; empty when it has none.
 std::string OtherSpelling(const std::string& folder, std::string_view name) {
-  const std::unique_ptr<DIR, int (*)(DIR*)> listing(opendir(folder.c_str()), closedir);
+  const Listing listing = ListingOf(folder);
   if (!listing) return {};
   std::string spelling;
   while (const dirent* entry = readdir(listing.get())) {
