@@ -1,7 +1,6 @@
 #include "base/host/host_file_system.h"
 
 #include <gtest/gtest.h>
-#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -12,6 +11,9 @@
 #include "base/host/host_paths.h"
 #include "base/language/error.h"
 #include "support/failing_disk.h"
+#include "support/ordinary_user.h"
+#include "support/small_disk.h"
+#include "support/system_calls.h"
 #include "support/temp_folder.h"
 
 namespace test {
@@ -198,32 +200,35 @@ TEST_F(HostFiles, AMissingFileNeedsNoMoreWords) {
 }
 
 TEST_F(HostFiles, AFileThatMayNotBeWrittenOpensForReading) {
-  if (geteuid() == 0) GTEST_SKIP() << "root may write everything";
   files_.Replace(Path("a"), "one");
   chmod((folder_.Path() + "/a").c_str(), 0400);
-  const auto file = files_.Open(Path("a"));
-  EXPECT_EQ(file->ReadAt(0, 3), "one");
-  EXPECT_EQ(ErrorOf([&] { file->Append("x"); }), 70);
-  EXPECT_EQ(ErrorOf([&] { files_.Replace(Path("a"), "x"); }), 70);
-  EXPECT_EQ(files_.ReadAll(Path("a")), "one");
+  AsOrdinaryUser(folder_.Path(), [&] {
+    const auto file = files_.Open(Path("a"));
+    EXPECT_EQ(file->ReadAt(0, 3), "one");
+    EXPECT_EQ(ErrorOf([&] { file->Append("x"); }), 70);
+    EXPECT_EQ(ErrorOf([&] { files_.Replace(Path("a"), "x"); }), 70);
+    EXPECT_EQ(files_.ReadAll(Path("a")), "one");
+  });
 }
 
 TEST_F(HostFiles, AFileThatMayNotBeReadIsTold) {
-  if (geteuid() == 0) GTEST_SKIP() << "root may read everything";
   files_.Replace(Path("a"), "one");
   chmod((folder_.Path() + "/a").c_str(), 0);
-  EXPECT_EQ(ErrorOf([&] { files_.Open(Path("a")); }), 70);
-  EXPECT_EQ(ErrorOf([&] { files_.ReadAll(Path("a")); }), 70);
+  AsOrdinaryUser(folder_.Path(), [&] {
+    EXPECT_EQ(ErrorOf([&] { files_.Open(Path("a")); }), 70);
+    EXPECT_EQ(ErrorOf([&] { files_.ReadAll(Path("a")); }), 70);
+  });
 }
 
 TEST_F(HostFiles, AFolderThatMayNotBeWrittenTakesNoFile) {
-  if (geteuid() == 0) GTEST_SKIP() << "root may write everything";
   files_.Replace(Path("a"), "one");
   chmod(folder_.Path().c_str(), 0500);
-  EXPECT_EQ(ErrorOf([&] { files_.Open(Path("new")); }), 70);
-  EXPECT_EQ(ErrorOf([&] { files_.Replace(Path("a"), "x"); }), 70);
-  EXPECT_EQ(ErrorOf([&] { files_.Remove(Path("a")); }), 70);
-  EXPECT_EQ(files_.ReadAll(Path("a")), "one");
+  AsOrdinaryUser(folder_.Path(), [&] {
+    EXPECT_EQ(ErrorOf([&] { files_.Open(Path("new")); }), 70);
+    EXPECT_EQ(ErrorOf([&] { files_.Replace(Path("a"), "x"); }), 70);
+    EXPECT_EQ(ErrorOf([&] { files_.Remove(Path("a")); }), 70);
+    EXPECT_EQ(files_.ReadAll(Path("a")), "one");
+  });
   chmod(folder_.Path().c_str(), 0700);
 }
 
@@ -244,44 +249,51 @@ TEST_F(HostFiles, ATornDiskKeepsHalfOfAnAppend) {
   EXPECT_EQ(files_.ReadAll(Path("a")), "wholeto");
 }
 
-// A real disk of 64 KiB, where this machine lets us have one.
-class SmallDisk : public HostFiles {
- protected:
-  void SetUp() override {
-    mounted_ = mount("tmpfs", folder_.Path().c_str(), "tmpfs", 0, "size=64k") == 0;
-    if (!mounted_) GTEST_SKIP() << "no disk can be mounted here";
-  }
-  void TearDown() override {
-    if (mounted_) umount2(folder_.Path().c_str(), MNT_DETACH);
-  }
-  bool mounted_ = false;
-};
+constexpr std::int64_t kSmall = 65536;
 
-TEST_F(SmallDisk, AFullDiskCutsAnAppendBack) {
+TEST_F(HostFiles, AFullDiskCutsAnAppendBack) {
   const auto file = files_.Open(Path("a"));
   file->Append(std::string(1000, 'x'));
-  EXPECT_EQ(ErrorOf([&] { file->Append(std::string(200000, 'y')); }), 61);
+  const int told = [&] {
+    const SmallDisk disk(kSmall);
+    return ErrorOf([&] { file->Append(std::string(200000, 'y')); });
+  }();
+  EXPECT_EQ(told, 61);
   EXPECT_EQ(file->Length(), 1000);
   EXPECT_EQ(file->ReadAt(0, 2000), std::string(1000, 'x'));
 }
 
-TEST_F(SmallDisk, AFullDiskLeavesTheOldFileWhole) {
+TEST_F(HostFiles, AFullDiskLeavesTheOldFileWhole) {
   files_.Replace(Path("a"), "old");
-  EXPECT_EQ(ErrorOf([&] { files_.Replace(Path("a"), std::string(200000, 'y')); }), 61);
+  const int told = [&] {
+    const SmallDisk disk(kSmall);
+    return ErrorOf([&] { files_.Replace(Path("a"), std::string(200000, 'y')); });
+  }();
+  EXPECT_EQ(told, 61);
   EXPECT_EQ(files_.ReadAll(Path("a")), "old");
   EXPECT_EQ(Names(), std::vector<std::string>{"a"});
 }
 
-TEST_F(SmallDisk, AWriteProtectedDiskIsRead) {
+// What a disk answers that is mounted for reading only.
+TEST_F(HostFiles, AWriteProtectedDiskIsRead) {
   files_.Replace(Path("a"), "one");
-  ASSERT_EQ(mount("", folder_.Path().c_str(), "", MS_REMOUNT | MS_RDONLY, ""), 0);
-  const auto file = files_.Open(Path("a"));
+  SystemCalls calls;
+  const auto refused = [&](const char* call, const std::function<void()>& act) {
+    calls.FailFromNow(1, EROFS, call);
+    const int told = ErrorOf(act);
+    EXPECT_TRUE(calls.HasStruck()) << call;
+    return told;
+  };
+  std::unique_ptr<base::File> file;
+  EXPECT_EQ(refused("open", [&] { file = files_.Open(Path("a")); }), 0);
   EXPECT_EQ(file->ReadAt(0, 9), "one");
   EXPECT_EQ(ErrorOf([&] { file->Append("x"); }), 70);
-  EXPECT_EQ(ErrorOf([&] { files_.Open(Path("new")); }), 70);
-  EXPECT_EQ(ErrorOf([&] { files_.Replace(Path("a"), "x"); }), 70);
-  EXPECT_EQ(ErrorOf([&] { files_.Remove(Path("a")); }), 70);
+  EXPECT_EQ(refused("open", [&] { files_.Open(Path("new")); }), 70);
+  EXPECT_EQ(refused("faccessat", [&] { files_.Replace(Path("a"), "x"); }), 70);
+  EXPECT_EQ(refused("open", [&] { files_.Replace(Path("new"), "x"); }), 70);
+  EXPECT_EQ(refused("unlink", [&] { files_.Remove(Path("a")); }), 70);
   EXPECT_EQ(files_.ReadAll(Path("a")), "one");
+  EXPECT_EQ(Names(), std::vector<std::string>{"a"});
 }
 
 }  // namespace
