@@ -92,7 +92,7 @@ struct Session {
 
 // Walks the whole file from its first byte: fills draw_pos, draw_count and file_pos, and calls
 // `visit` for each record in current_draw. An empty file is one blank record. Error 6 at the
-// 32,768th record.
+// 32,768th record. After an error draw_pos holds the records that were reached.
 template <typename Visit>
 void WalkFile(Session& session, Visit visit);
 void WalkFile(Session& session);
@@ -107,6 +107,7 @@ void IndexNextRecord(Session& session, std::int32_t& position);
 
 template <typename Visit>
 void WalkFile(Session& session, Visit visit) {
+  session.draw_pos.resize(1);  // what a walk that fails does not reach is not in another's place
   session.draw_count = 0;
   session.file_pos = 1;
   std::int32_t position = 1;

@@ -290,24 +290,39 @@ TEST(Entry, AnEditAfterARemovalFindsItsRow) {
   EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
 }
 
-// A full disk left the lines in Temp.dat, and the next edit put them in front of all draws.
+// A full disk left the lines in Temp.dat, and the next edit put them in front of all draws. When
+// the database could not be read again, the next edit wrote over another draw.
 TEST(Entry, AFailedEditDoesNotDoubleTheNextOne) {
-  TestDesk desk;
-  desk.settings.Save("velmonte", "390", "Tips", "False");
-  FailingDisk disk(desk.host_files);
-  desk.files = &disk;
-  desk.Start();
-  const auto edit = [&] {
-    desk.User().Pick(desk.Main().List7, 4);
-    desk.User().Click(desk.Main().cmdedit);
-    desk.User().Click(desk.Main().cmdedit);
-  };
-  for (int failing = 2; failing < 12; ++failing) {
+  for (int failing = 1;; ++failing) {
+    SCOPED_TRACE("operation " + std::to_string(failing));
+    TestDesk desk;
+    desk.settings.Save("velmonte", "390", "Tips", "False");
+    FailingDisk disk(desk.host_files);
+    desk.files = &disk;
+    desk.Start();
+    const auto edit = [&](int line, const char* ball) {
+      desk.User().Pick(desk.Main().List7, line);
+      desk.User().Click(desk.Main().cmdedit);
+      desk.Main().TxtBall06.SetText(ball);
+      desk.User().Click(desk.Main().cmdedit);
+    };
+    auto expected = SampleDraws(40);
     disk.FailFromNow(failing, base::Error(base::kDiskFull));
-    edit();
-    disk.FailFromNow(1000000, base::Error(base::kDiskFull));
-    edit();
-    EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(40))) << "operation " << failing;
+    edit(4, "98");
+    const bool failed = disk.HasFailed();
+    EXPECT_EQ(failed, !desk.TakeBoxTexts().empty());
+    expected[4].b[5] = "98";
+    if (!failed) {
+      EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+      EXPECT_GT(failing, 1) << "no operation was reached";
+      return;
+    }
+    // The first edit stands in the list of lines by now; a second one that is not done is told.
+    edit(6, "99");
+    if (desk.TakeBoxTexts().empty()) expected[6].b[5] = "99";
+    EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+    desk.Desk().Stop();
+    EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
   }
 }
 
