@@ -1,5 +1,6 @@
 #include "support/test_desk.h"
 
+#include <gtest/gtest.h>
 #include <stdlib.h>
 
 #include <algorithm>
@@ -63,6 +64,14 @@ void ScriptedPump::At(int n, std::function<void()> action) {
   actions_.emplace(yields + n, std::move(action));
 }
 
+std::vector<std::string> ScriptedPump::Unreached() const {
+  std::vector<std::string> texts;
+  for (const auto& [yield, action] : actions_) {
+    texts.push_back("an action in yield " + std::to_string(yield));
+  }
+  return texts;
+}
+
 store::DrawRecord Draw(std::initializer_list<int> balls, std::string_view day,
                        std::string_view date) {
   store::DrawRecord record;
@@ -105,8 +114,29 @@ TestDesk::TestDesk(const std::vector<store::DrawRecord>& draws, std::string data
 
 TestDesk::~TestDesk() {
   desk_.reset();
+  if (!may_leave_unused) TellUnused();
   std::error_code ignored;
   std::filesystem::remove_all(folder, ignored);
+}
+
+std::vector<std::string> TestDesk::Unused() const {
+  std::vector<std::string> texts = pump.Unreached();
+  for (const base::Answer answer : boxes.answers) {
+    texts.push_back("the answer " + std::to_string(static_cast<int>(answer)));
+  }
+  for (const auto& input : boxes.inputs) {
+    texts.push_back(input ? "the input \"" + *input + "\"" : "the input that cancels");
+  }
+  if (!clock.looks.empty()) {
+    texts.push_back(std::to_string(clock.looks.size()) + " looks at the clock");
+  }
+  return texts;
+}
+
+void TestDesk::TellUnused() const {
+  for (const std::string& what : Unused()) {
+    ADD_FAILURE() << "never reached: " << what << "; there were " << pump.yields << " yields";
+  }
 }
 
 void TestDesk::Start() {

@@ -49,6 +49,8 @@ class ScriptedPump : public base::EventPump {
   void Pump() override;
   // Runs `action` in the nth yield from now (1 is the next one).
   void At(int n, std::function<void()> action);
+  // What never ran: "an action in yield 90" for each, counted as `yields` is.
+  std::vector<std::string> Unreached() const;
   int yields = 0;
 
  private:
@@ -108,7 +110,9 @@ store::DrawRecord Draw(std::initializer_list<int> balls, std::string_view day = 
 std::vector<store::DrawRecord> SampleDraws(int n);
 std::string Encode(const std::vector<store::DrawRecord>& draws);
 
-// A desk on a temporary program folder with one database, every port logged.
+// A desk on a temporary program folder with one database, every port logged. At its end it fails
+// its test if something waits that was never asked for: an answer, an input, an action, a look at
+// the clock. A test in which that is right says so.
 class TestDesk {
  public:
   explicit TestDesk(const std::vector<store::DrawRecord>& draws = SampleDraws(40),
@@ -146,10 +150,14 @@ class TestDesk {
   LoggedHelp help;
   LoggedPrinter printer;
   FixedRegion region;
+  bool may_leave_unused = false;
   // The disk that the desk sees; set before Start to put another in its place.
   base::FileSystem* files = &host_files;
 
  private:
+  std::vector<std::string> Unused() const;
+  void TellUnused() const;
+
   base::QuietPorts quiet_;
   std::unique_ptr<shell::Desk> desk_;
 };
