@@ -1,6 +1,7 @@
 #include "scan/main_scan.h"
 
 #include <algorithm>
+#include <array>
 
 #include "base/language/error.h"
 #include "base/language/numbers.h"
@@ -31,6 +32,24 @@ const base::MessageBox kRulesChanged{
 
 }  // namespace
 
+// What the buttons that a scan disables were like before it.
+class MainScan::ButtonStates {
+ public:
+  explicit ButtonStates(store::MainWindow& window)
+      : buttons_{&window.cmdAdd,  &window.cmdFirst, &window.cmdPrev,
+                 &window.cmdNext, &window.cmdLast,  &window.lblbuttons(kMakeWheel)} {
+    std::transform(buttons_.begin(), buttons_.end(), enabled_.begin(),
+                   [](const base::Control* button) { return button->Enabled(); });
+  }
+  void GiveBack() const {
+    for (std::size_t i = 0; i < buttons_.size(); ++i) buttons_[i]->SetEnabled(enabled_[i]);
+  }
+
+ private:
+  std::array<base::Control*, 6> buttons_;
+  std::array<bool, 6> enabled_{};
+};
+
 void MainScan::Wire() {
   place_.window.CmdScan.on.click = [this] { CmdScan_Click(); };
 }
@@ -39,11 +58,12 @@ void MainScan::CmdScan_Click() { StartOrStop(true); }
 
 void MainScan::StartOrStop(bool may_ask) {
   store::MainWindow& window = place_.window;
+  const ButtonStates buttons(window);
   window.Check1.SetValue(0);
   window.LabFilterCount.SetCaption("0");
   graph_.MakeTheGraphVisible();
   frequencies_.MostCommonMainWindow();
-  window.cmdAdd.SetEnabled(true);
+  window.cmdAdd.SetEnabled(place_.session.database.IsComplete());
   window.lblbuttons(kMakeWheel).SetEnabled(false);
   browsing_.EnableTheButtons(false);
   if (window.CmdScan.Caption() != kIdle) {
@@ -54,7 +74,7 @@ void MainScan::StartOrStop(bool may_ask) {
   window.CmdScan.SetCaption(kRunning);
   place_.session.filter_count = 1;
   if (may_ask && base::NumericValue(window.txtRecNum.Text()) >= place_.session.UpperBound() - 1) {
-    if (!ConfirmNewScan()) return;
+    if (!ConfirmNewScan(buttons)) return;
   }
   ScanFromHere();
 }
@@ -67,11 +87,12 @@ void MainScan::StopSteps() {
   frequencies_.ScaleStep();
 }
 
-bool MainScan::ConfirmNewScan() {
+bool MainScan::ConfirmNewScan(const ButtonStates& buttons) {
   store::MainWindow& window = place_.window;
   if (place_.Ask(kNewScan) != base::Answer::kYes) {
     place_.Yield();
     window.CmdScan.SetCaption(kIdle);
+    buttons.GiveBack();
     return false;
   }
   if (place_.session.current_draw.b[0].empty()) {

@@ -30,11 +30,12 @@ class MainScan {
   void FillTag();
 
  private:
+  class ButtonStates;
   enum class Pass { kNext, kFinish, kSuspend };
 
   void StartOrStop(bool may_ask);
   void StopSteps();
-  bool ConfirmNewScan();
+  bool ConfirmNewScan(const ButtonStates& buttons);
   void ScanFromHere();
   Pass OnePass(int& first_scan_highest);
   void ReadNextDraw();

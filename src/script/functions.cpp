@@ -65,8 +65,19 @@ struct Function {
 std::string DrawLineAt(const Call& call) {
   store::Session& session = call.On().Desk().Session();
   store::DrawRecord draw;
-  session.file.Read(session.PositionOf(call.Number(0)), draw);
+  session.database.Read(session.database.PositionOf(call.Number(0)), draw);
   return store::DrawLine(draw);
+}
+
+Json StorePending(const Call& call) {
+  call.On().Desk().StorePending();
+  return nullptr;
+}
+
+Json Earlier(const Call& call) {
+  Json names = Json::array();
+  for (const std::string& name : call.On().Desk().Earlier()) names.push_back(TextJson(name));
+  return names;
 }
 
 // A path that names no file of the host's root lies below the program folder.
@@ -125,6 +136,9 @@ const std::vector<Function>& Functions() {
        }},
       {"GetHits", 1, Hits},
       {"CheckForDuplicates", 2, CheckForDuplicates},
+      {"StorePending", 0, StorePending},
+      {"Undo", 0, [](const Call& c) { return TextJson(c.On().Desk().Undo()); }},
+      {"Earlier", 0, Earlier},
       {"DrawLine", 1, [](const Call& c) { return TextJson(DrawLineAt(c)); }},
       {"ReadIniString", 3, [](const Call& c) { return TextJson(ProfileText(c)); }},
       {"WeekDayName", 1,

@@ -121,10 +121,10 @@ const std::vector<WheelGlobal>& WheelGlobals() {
 const std::vector<Global>& Globals() {
   static const std::vector<Global> globals{
       {"CurrentDraw", [](const Session& s) { return RecordJson(s.current_draw); }},
-      Array("DrawPos", &Session::draw_pos),
+      {"DrawPos", [](const Session& s) { return NumbersJson(s.database.Positions()); }},
       Number("DrawCount", &Session::draw_count),
       Number("FilePos", &Session::file_pos),
-      Number("FileLen", &Session::file_len),
+      {"FileLen", [](const Session& s) { return Json(s.database.Length()); }},
       Text("DataBasePath", &Session::data_base_path),
       Text("TempPath", &Session::temp_path),
       Text("DataBaseName", &Session::data_base_name),

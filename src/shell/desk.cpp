@@ -153,7 +153,18 @@ Desk::Desk(base::Ports ports, std::string program_folder)
 Desk::~Desk() = default;
 
 void Desk::Start() {
+  TellUnreadableSettings();
   parts_->desktop.Dispatch([this] { parts_->desktop.Show(parts_->splash.Get()); });
+}
+
+// Once, before anything else: nothing that is changed in this run will be kept.
+void Desk::TellUnreadableSettings() {
+  base::Ports& world = parts_->desktop.World();
+  const std::optional<base::Error> failure = world.settings.Failure();
+  if (!failure) return;
+  world.boxes.Ask({.text = "The settings could not be read, and are left as they are: " +
+                           failure->Description(),
+                   .icon = base::BoxIcon::kExclamation});
 }
 
 void Desk::Stop() {
@@ -179,5 +190,27 @@ FrmMain* Desk::Frame() { return parts_->frame.Peek(); }
 store::MainWindow* Desk::Main() { return parts_->main.Peek(); }
 wheels::WheelWizard* Desk::Wheels() { return parts_->wheel.Peek(); }
 const wheels::WheelState& Desk::WheelState() const { return parts_->wheel_state; }
+
+void Desk::StorePending() {
+  parts_->desktop.Dispatch([this] {
+    if (MainWindowSubjects* const window = parts_->main.Peek())
+      window->WorkingCopy().StorePending();
+  });
+}
+
+std::string Desk::Undo() {
+  std::string told;
+  parts_->desktop.Dispatch([&] {
+    if (MainWindowSubjects* const window = parts_->main.Peek()) told = window->Undo().TakeBack();
+  });
+  return told;
+}
+
+std::vector<std::string> Desk::Earlier() { return parts_->session.database.Earlier(); }
+
+std::vector<Notice> Desk::Notices() {
+  if (!parts_->main.Peek()) return {};
+  return NoticesOf(parts_->session.database);
+}
 
 }  // namespace shell

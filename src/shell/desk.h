@@ -3,10 +3,12 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/controls/desktop.h"
 #include "base/controls/user.h"
 #include "shell/frame_window.h"
+#include "shell/notices.h"
 #include "shell/small_windows.h"
 #include "store/main_window.h"
 #include "store/session.h"
@@ -43,7 +45,19 @@ class Desk {
   // What the wheel window holds, or held when it was last open.
   const wheels::WheelState& WheelState() const;
 
+  // Writes what waits in the table of draws to the file. Does nothing without a main window, and
+  // while a procedure of it runs that changes draws.
+  void StorePending();
+  // Takes the last change of a draw back; the text tells which, and is empty where none was.
+  std::string Undo();
+  // The names of the earlier states kept of the open database, the newest first.
+  std::vector<std::string> Earlier();
+  // What the status bar has to tell of the open database.
+  std::vector<Notice> Notices();
+
  private:
+  void TellUnreadableSettings();
+
   class Parts;
   std::unique_ptr<Parts> parts_;
 };

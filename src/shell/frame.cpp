@@ -86,6 +86,7 @@ void Frame::MDIForm_Unload() {
 
 void Frame::StorePlacement() {
   if (window_.State() == base::WindowState::kMinimised) return;
+  if (desktop_.World().settings.Failure()) return;  // told at the start
   const auto save = [this](std::string_view key, int value) {
     desktop_.World().settings.Save(kTitleApplication, kPlaceSection, key, base::IntegerText(value));
   };

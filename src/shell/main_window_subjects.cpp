@@ -13,8 +13,9 @@ MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& d
       browsing_(place_, *this),
       entry_(place_, browsing_, *this),
       entry_boxes_(place_),
-      row_editor_(place_),
-      working_copy_(place_, browsing_, entry_),
+      row_editor_(place_, browsing_),
+      working_copy_(place_, browsing_),
+      undo_(place_, browsing_),
       loading_(place_, browsing_, loading_side_),
       main_scan_(place_, browsing_, entry_, counts_, graph_, frequencies_),
       scan_filter_(place_, browsing_, entry_, frequencies_),
@@ -36,6 +37,8 @@ MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& d
 }
 
 void MainWindowSubjects::Form_Load() {
+  place_.session.data_base_changed = false;
+  place_.session.shown_place = 0;
   PlaceLabels();
   place_.session.main_window_loaded = true;
   ListView1.Clear();

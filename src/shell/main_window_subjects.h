@@ -13,6 +13,7 @@
 #include "store/loading.h"
 #include "store/main_window.h"
 #include "store/row_editor.h"
+#include "store/undo.h"
 #include "store/working_copy.h"
 
 namespace shell {
@@ -38,6 +39,7 @@ class MainWindowSubjects : public store::MainWindow,
   scan::GraphOptions& GraphOptions() { return graph_options_; }
   scan::Frequencies& Frequencies() { return frequencies_; }
   store::WorkingCopy& WorkingCopy() { return working_copy_; }
+  store::Undo& Undo() { return undo_; }
 
   void Form_Load();
   void Form_Unload();
@@ -61,7 +63,7 @@ class MainWindowSubjects : public store::MainWindow,
   void ReloadBuffers() override { Form_Load(); }
   void ZeroItMainWindow() override { counts_.ZeroItMainWindow(); }
   void FillCommand4TagMainWindow() override { counts_.FillCommand4TagMainWindow(); }
-  void DoDataBase() override { working_copy_.DoDataBase(); }
+  bool DoDataBase(const store::Edit& edit) override { return working_copy_.DoDataBase(edit); }
   void PlaceLabels();
 
   store::Workplace place_;
@@ -75,6 +77,7 @@ class MainWindowSubjects : public store::MainWindow,
   store::EntryBoxes entry_boxes_;
   store::RowEditor row_editor_;
   store::WorkingCopy working_copy_;
+  store::Undo undo_;
   store::Loading loading_;
   scan::MainScan main_scan_;
   scan::ScanFilter scan_filter_;

@@ -37,6 +37,7 @@ class SettingsStore : public base::Settings {
                                   std::string_view key) override;
   void Save(std::string_view application, std::string_view section, std::string_view key,
             std::string_view text) override;
+  std::optional<base::Error> Failure() const override { return failure_; }
 
  private:
   // A line as it stands in the file, and what it says if it says something.

@@ -4,6 +4,7 @@
 
 #include "base/language/numbers.h"
 #include "base/language/text.h"
+#include "store/draw_on_show.h"
 
 namespace store {
 namespace {
@@ -40,7 +41,6 @@ void Browsing::Wire() {
 void Browsing::cmdFirst_Click() {
   MainWindow& window = place_.window;
   window.CmdScan.SetCaption("Scan");
-  window.cmdAdd.SetEnabled(true);
   SetEntryButtons(false);
   window.CmdScan.SetEnabled(true);
   EnableTheButtons(true);
@@ -81,7 +81,8 @@ void Browsing::cmdPrev_Click() {
 
 void Browsing::List7_Click() {
   Session& session = place_.session;
-  const int number = place_.window.List7.ListIndex() + 1;
+  // A line stands for its own draw, also while one above it is being replaced.
+  const int number = place_.window.List7.Key(place_.window.List7.ListIndex());
   session.ReadDraw(number);
   session.current_draw_number = static_cast<float>(number);
   FillTextMainWindow();
@@ -122,6 +123,7 @@ void Browsing::EnableTheButtons(bool on) {
        {&window.cmdAdd, &window.cmdFirst, &window.cmdPrev, &window.cmdNext, &window.cmdLast}) {
     button->SetEnabled(on);
   }
+  if (on) EnableChanges(place_.session, window);
 }
 
 void Browsing::SetEntryButtons(bool enabled) {
@@ -157,6 +159,7 @@ void Browsing::ShowSelectedRow() {
   session.shown_day = table.Cell(row, kDayCell);
   session.shown_date = table.Cell(row, kDateCell);
   session.current_draw_number = static_cast<float>(row - 1);
+  SetDrawOnShow(session, place_.window, table.Key(row));
   ShowBoxes();
   place_.window.txtRecNum.SetText(base::SingleText(session.current_draw_number));
 }
@@ -203,6 +206,7 @@ void Browsing::FillTextMainWindow() {
   }
   session.shown_day = session.current_draw.day;
   session.shown_date = session.current_draw.date;
+  SetDrawOnShow(session, place_.window, session.current_place);
   ShowBoxes();
   place_.Yield();
 }
@@ -211,7 +215,8 @@ void Browsing::GotoDataBasePosition1MainWindow() {
   Session& session = place_.session;
   session.draw_count = 1;
   session.file_pos = 1;
-  session.file.Read(session.file_pos, session.current_draw);
+  session.database.Read(session.file_pos, session.current_draw);
+  session.current_place = 1;
   session.current_draw_number = static_cast<float>(session.draw_count);
   place_.window.ProgressBar1.Each([&](base::Bar& bar) {
     if (bar.Index() == 0) return;

@@ -2,16 +2,19 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "base/language/error.h"
 #include "base/ports/file_system.h"
 #include "store/draw_record.h"
 
 namespace store {
 
-// File number 1: the open database. Byte positions count from 1. Every operation on a closed file
-// is error 52.
+// The bytes of one draw file, read from the disk once and from then on out of memory: what a walk
+// has seen stays as it was, whatever becomes of the file. Byte positions count from 1. Every
+// operation on a closed file is error 52.
 class DrawFile {
  public:
   explicit DrawFile(base::FileSystem& files) : files_(files) {}
@@ -19,36 +22,44 @@ class DrawFile {
   // Closes the old file first. A missing file comes into being, empty.
   void Open(const std::string& path);
   void Close();
-  bool IsOpen() const { return file_ != nullptr; }
+  bool IsOpen() const { return is_open_; }
 
-  // Length in bytes; error 6 beyond what 32 signed bits hold.
-  std::int32_t Length();
+  // Length in bytes as it was opened, or as it is after what was written here; error 6 beyond what
+  // 32 signed bits hold.
+  std::int32_t Length() const;
 
-  // Fills the record from a position and returns the position after it. Nothing is checked: the
-  // lengths in the file are believed. In a file that ends inside the record a missing number reads
-  // as 0 and a text gives what bytes there are.
+  // Forgets what was read. The file that was opened is read anew, also where its path has come to
+  // name another one.
+  void Forget();
+  // Fills the record from a position and returns the position after it; see DecodeRecord. An error
+  // of the disk comes where bytes of the record could not be read, and again until Forget.
   std::int32_t Read(std::int32_t position, DrawRecord& record);
+  // Every byte of the file, read to its end.
+  const std::string& Bytes();
 
-  // What the file lacks for the record at this position to be whole: zero lengths, and blanks for
-  // the rest of a text. Empty for a whole record, and where no byte of one stands.
-  std::string MissingBytes(std::int32_t position);
-
-  // Appends the record. Only `position` = length + 1 is a place to write; any other is error 5.
-  void Write(std::int32_t position, const DrawRecord& record);
-  // Appends records already encoded, in one step that succeeds whole or leaves the file as it was.
-  void AppendBytes(std::string_view bytes);
+  // Whether the path still leads to the file that was opened.
+  bool IsTheFile(const base::FileIdentity& identity) const;
+  // Opens the path again, for a file that holds the same bytes.
+  void Reopen(const std::string& path);
+  // Appends bytes to a file that was read to its end, in one step that succeeds whole or leaves the
+  // file as it was.
+  void Append(std::string_view bytes);
+  // The path now has a file of these bytes, written by someone who renamed it into place. Needs no
+  // disk: the new file is opened when it is next needed.
+  void Adopt(std::string bytes);
 
  private:
-  base::File& Opened();
-  // Up to `count` bytes from a 0-based offset, out of a block of the file kept in memory.
-  std::string_view Bytes(std::int64_t offset, std::size_t count);
-  unsigned ReadWord(std::int64_t& offset);
-  void ReadText(std::int64_t& offset, std::string& text);
+  void DemandOpen() const;
+  // Reads on until this many bytes are there, or the end, or an error that is kept.
+  void FillTo(std::size_t size);
 
   base::FileSystem& files_;
   std::unique_ptr<base::File> file_;
-  std::string block_;
-  std::int64_t block_offset_ = 0;
+  bool is_open_ = false;
+  std::int64_t length_ = 0;
+  std::string bytes_;
+  bool at_end_ = false;
+  std::optional<base::Error> failure_;
 };
 
 }  // namespace store

@@ -1,5 +1,8 @@
 #include "store/draw_record.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "base/language/error.h"
 #include "base/language/numbers.h"
 #include "base/language/text.h"
@@ -24,6 +27,49 @@ void AppendText(std::string& bytes, std::string_view text) {
   AppendWord(bytes, static_cast<unsigned>(text.size()));
   bytes.append(text);
 }
+
+// Takes the fields of a record one by one out of bytes that may end inside it.
+class RecordReader {
+ public:
+  RecordReader(std::string_view bytes, std::size_t offset)
+      : bytes_(bytes), end_{.offset = std::min(offset, bytes.size())} {
+    there_is_one_ = end_.offset < bytes.size();
+  }
+
+  // 0 where not both of its bytes are there.
+  unsigned Word() {
+    const std::string_view word = Take(2, '\0');
+    if (word.size() < 2) return 0;
+    return static_cast<unsigned char>(word[0]) |
+           static_cast<unsigned>(static_cast<unsigned char>(word[1])) << 8;
+  }
+  void Text(std::string& text) {
+    const std::size_t start = end_.offset;
+    const unsigned length = Word();
+    // One byte of a length, once made whole, is a length too.
+    const std::size_t got = end_.offset - start;
+    text.assign(Take(got == 1 ? LowByte(start) : length, ' '));
+  }
+  RecordEnd End() && {
+    if (!there_is_one_) end_.missing.clear();
+    return std::move(end_);
+  }
+
+ private:
+  std::size_t LowByte(std::size_t offset) const {
+    return static_cast<unsigned char>(bytes_[offset]);
+  }
+  std::string_view Take(std::size_t count, char stand_in) {
+    const std::string_view there = bytes_.substr(end_.offset, count);
+    end_.offset += there.size();
+    if (there.size() < count) end_.missing.append(count - there.size(), stand_in);
+    return there;
+  }
+
+  std::string_view bytes_;
+  RecordEnd end_;
+  bool there_is_one_ = false;
+};
 
 }  // namespace
 
@@ -63,6 +109,16 @@ std::string EncodeRecord(const DrawRecord& record) {
   AppendText(bytes, record.bb);
   AppendText(bytes, record.date);
   return bytes;
+}
+
+RecordEnd DecodeRecord(std::string_view bytes, std::size_t offset, DrawRecord& record) {
+  RecordReader reader(bytes, offset);
+  record.spare = static_cast<std::int16_t>(reader.Word());
+  for (std::string& ball : record.b) reader.Text(ball);
+  reader.Text(record.day);
+  reader.Text(record.bb);
+  reader.Text(record.date);
+  return std::move(reader).End();
 }
 
 }  // namespace store

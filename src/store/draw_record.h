@@ -39,4 +39,18 @@ void ParseDrawLine(std::string_view line, DrawRecord& record);
 // length: B1..B6, Day, BB, Date. Error 6 for a text of more than 65,535 bytes.
 std::string EncodeRecord(const DrawRecord& record);
 
+// The most bytes that a record can have.
+inline constexpr std::size_t kLongestRecord = 2 + 9 * (2 + 0xFFFF);
+
+// Where a record in a run of bytes ends, and what these lack for it to be whole: zero lengths, and
+// blanks for the rest of a text. Nothing is lacking where no byte of it stands.
+struct RecordEnd {
+  std::size_t offset = 0;
+  std::string missing{};
+};
+
+// Fills the record from an offset. Nothing is checked: the lengths are believed. Where the bytes
+// end inside it a missing number reads as 0 and a text gives what bytes there are.
+RecordEnd DecodeRecord(std::string_view bytes, std::size_t offset, DrawRecord& record);
+
 }  // namespace store

@@ -1,12 +1,10 @@
 #include "store/entry.h"
 
-#include <algorithm>
-#include <array>
-
 #include "base/language/dates.h"
 #include "base/language/numbers.h"
 #include "base/language/text.h"
-#include "store/loading.h"
+#include "store/draw_lists.h"
+#include "store/draw_on_show.h"
 #include "store/pasted_line.h"
 #include "store/tips.h"
 
@@ -20,30 +18,6 @@ constexpr std::size_t kDateLength = 8;
 constexpr std::size_t kShortestLine = 5;
 constexpr int kNotice = 4;  // the member of lblProductName1 where notices stand
 
-struct DaySpelling {
-  std::string_view begins;
-  std::string_view short_form;
-};
-
-constexpr std::array<DaySpelling, 14> kShortDays{{
-    {"m", "Mon"},
-    {"M", "Mon"},
-    {"tu", "Tue"},
-    {"Tu", "Tue"},
-    {"w", "Wed"},
-    {"W", "Wed"},
-    {"th", "Thu"},
-    {"Th", "Thu"},
-    {"fr", "Fri"},
-    {"Fr", "Fri"},
-    {"sa", "Sat"},
-    {"Sa", "Sat"},
-    {"su", "Sun"},
-    {"Su", "Sun"},
-}};
-
-constexpr std::array<std::string_view, 7> kDays{"Mo", "Tu", "We", "Th", "Fr", "Sa", "Su"};
-
 std::string BoxName(int k) { return "B" + std::to_string(k + 1); }
 
 // Swaps two boxes whose texts are out of order, the first by way of a number, which costs it its
@@ -56,23 +30,6 @@ void PutTheTextBoxsInOrder(base::TextBox& a, base::TextBox& b) {
 }
 
 }  // namespace
-
-std::string TwoLetterDay(std::string_view text) {
-  const std::string_view start = text.substr(0, 2);
-  for (std::string_view day : kDays) {
-    if (start == day || start == base::Lower(day) || start == base::Upper(day)) {
-      return std::string(day);
-    }
-  }
-  return std::string(text);
-}
-
-std::string ShortDay(std::string_view text) {
-  for (const DaySpelling& day : kShortDays) {
-    if (text.starts_with(day.begins)) return std::string(day.short_form);
-  }
-  return std::string(text);
-}
 
 void Entry::Wire() {
   MainWindow& window = place_.window;
@@ -121,6 +78,7 @@ void Entry::cmdClear_Click() {
   Session& session = place_.session;
   MainWindow& window = place_.window;
   session.data_base_changed = true;
+  SetDrawOnShow(session, window, 0);
   for (int k = 0; k < kBalls; ++k) window.BallBox(k).SetText("");
   window.TxtBall07.SetText("");
   window.txtDate.SetText("");
@@ -154,20 +112,76 @@ void Entry::QNDLabels() {
 
 void Entry::cmdSave_Click() {
   MainWindow& window = place_.window;
+  if (place_.desktop.IsHeld(window)) return;
+  const base::Desktop::Hold hold(place_.desktop, window);
   QNDLabels();
   place_.session.data_base_changed = true;
+  const bool could_add = window.cmdAdd.Enabled();
+  const bool could_reset = window.CmdReset.Enabled();
   window.cmdAdd.SetEnabled(false);
   window.CmdReset.SetEnabled(false);
+  bool saved = false;
+  Trapped(place_.reporter, "cmdSave_Click", [&] { saved = SaveTyped(); });
+  if (saved) {
+    ShowSavedDraw();
+    return;
+  }
+  window.cmdAdd.SetEnabled(could_add);
+  window.CmdReset.SetEnabled(could_reset);
+}
+
+bool Entry::SaveTyped() {
+  MainWindow& window = place_.window;
   CheckValidData();
+  const Typed typed = Boxes();
   place_.Yield();
-  if (!BoxesAreValid()) return;
+  PutBack(typed);  // whatever came into the boxes meanwhile
+  if (IsStoredAlready() || !BoxesAreValid()) return false;
   SortBoxes();
   if (window.txtDate.Text().size() > kDateLength) {
     place_.Ask(
         {.text = "Date field is incorrect please enter in this format 00/00/00", .title = "Note!"});
-    return;
+    return false;
   }
-  if (SaveNewRecord()) ShowSavedDraw();
+  return SaveNewRecord();
+}
+
+Entry::Typed Entry::Boxes() const {
+  MainWindow& window = place_.window;
+  Typed typed{.balls = {},
+              .day = window.TxtBall07.Text(),
+              .date = window.txtDate.Text(),
+              .place_on_show = place_.session.shown_place};
+  for (int k = 0; k < kBalls; ++k) {
+    typed.balls[static_cast<std::size_t>(k)] = window.BallBox(k).Text();
+  }
+  return typed;
+}
+
+void Entry::PutBack(const Typed& typed) {
+  MainWindow& window = place_.window;
+  for (int k = 0; k < kBalls; ++k) {
+    window.BallBox(k).SetText(typed.balls[static_cast<std::size_t>(k)]);
+  }
+  window.TxtBall07.SetText(typed.day);
+  window.txtDate.SetText(typed.date);
+  place_.session.shown_place = typed.place_on_show;
+  EnableChanges(place_.session, window);
+}
+
+// A draw looked at while one was to be added stands in the boxes as it was read: saving it would
+// only double it.
+bool Entry::IsStoredAlready() {
+  Session& session = place_.session;
+  const int row = place_.window.ListView1.RowWithKey(session.shown_place);
+  if (row == 0) return false;
+  base::ListView::Cells cells;
+  for (int k = 0; k < kBalls; ++k) cells.push_back(place_.window.BallBox(k).Text());
+  cells.push_back(place_.window.txtDate.Text());
+  cells.push_back(place_.window.TxtBall07.Text());
+  if (RecordOfRow(cells) != RecordOfRow(place_.window.ListView1.Row(row))) return false;
+  place_.Ask({.text = "This draw is in the database already, nothing was saved"});
+  return true;
 }
 
 void Entry::CheckValidData() {
@@ -240,23 +254,23 @@ void Entry::DoTextBox() {
   place_.session.day_text = TwoLetterDay(window.TxtBall07.Text());
 }
 
-void Entry::SaveFields() {
-  DrawRecord& draw = place_.session.current_draw;
-  MainWindow& window = place_.window;
-  for (int k = 0; k < kBalls; ++k) draw.Ball(k) = PadBall(window.BallBox(k).Text());
-  draw.day = TwoLetterDay(window.TxtBall07.Text());
-  draw.date = window.txtDate.Text();
-}
-
 bool Entry::SaveNewRecord() {
   bool saved = false;
   Trapped(place_.reporter, "SaveNewRecord", [&] {
     DoTextBox();
-    DrawRecord& draw = place_.session.current_draw;
+    Session& session = place_.session;
+    DrawRecord& draw = session.current_draw;
+    session.current_place = 0;
     for (int k = 0; k < kBalls; ++k) draw.Ball(k) = place_.window.BallBox(k).Text();
-    draw.day = place_.session.day_text;
+    draw.day = session.day_text;
     draw.date = place_.window.txtDate.Text();
-    AppendCurrentDraw(place_.session);
+    if (!guard_.MayWrite()) return;
+    const std::string before = session.database.Bytes();
+    AppendCurrentDraw(session);
+    session.database.log.Add({.told = "Draw of " + draw.date + " saved",
+                              .bytes = ChangeOf(before, session.database.Bytes()),
+                              .pending_before = session.database.pending,
+                              .place = session.UpperBound()});
     place_.window.cmdClear.SetEnabled(true);
     saved = true;
   });
@@ -265,25 +279,30 @@ bool Entry::SaveNewRecord() {
 
 void Entry::ShowSavedDraw() {
   const DrawRecord saved = place_.session.current_draw;
+  const int place = place_.session.UpperBound();
   MainWindow& window = place_.window;
   browsing_.cmdLast_Click();
-  window.List7.AddItem(DrawLine(saved));
-  window.ListView1.AddRow(TableRow(saved));
+  window.List7.AddItem(DrawLine(saved), place);
+  window.ListView1.AddRow(TableRow(saved), place);
   window.List7.SetListIndex(window.List7.ListCount() - 1);
   window.List7.on.click();
+  window.ListView1.Select(window.ListView1.RowCount());
+  window.ListView1.EnsureVisible(window.ListView1.RowCount());
 }
 
 // --- Editing in place
 
 void Entry::cmdedit_Click() {
   MainWindow& window = place_.window;
+  if (place_.desktop.IsHeld(window)) return;
   place_.session.data_base_changed = true;
   window.cmdAdd.SetEnabled(true);
-  if (window.cmdedit.Caption() == "Edit") {
-    StartEdit();
-  } else {
+  if (IsEditing(window)) {
     SaveEdit();
+  } else {
+    StartEdit();
   }
+  EnableChanges(place_.session, window);
 }
 
 void Entry::StartEdit() {
@@ -297,9 +316,9 @@ void Entry::StartEdit() {
 void Entry::SaveEdit() {
   Session& session = place_.session;
   MainWindow& window = place_.window;
+  const base::Desktop::Hold hold(place_.desktop, window);
   window.TxtBall01.SetEnabled(false);
-  window.cmdedit.SetCaption("Edit");
-  window.tbar3.SetEnabled(false);
+  StopEditing(window);
   window.List7.SetEnabled(false);
   session.selected_list_row = base::ToInt16(session.current_draw_number);
   for (int k = 0; k < kMainBalls; ++k) {
@@ -312,8 +331,6 @@ void Entry::SaveEdit() {
   }
   try {
     ReplaceEditedLine();
-    place_.Yield();
-    neighbours_.DoDataBase();
   } catch (const base::Error&) {
     window.List7.SetEnabled(true);
     throw;
@@ -321,34 +338,46 @@ void Entry::SaveEdit() {
   window.List7.SetEnabled(true);
 }
 
-// The table's row of a draw line. While rows and lines are as many they share their numbers; after
-// a removal from the table the row is the last one before the line's number that reads alike, 0 for
-// none.
-int Entry::RowOfLine(int number, const std::string& line) const {
-  const base::ListView& table = place_.window.ListView1;
-  if (table.RowCount() == place_.window.List7.ListCount()) return number;
-  DrawRecord draw;
-  ParseDrawLine(line, draw);
-  int row = std::min(number, table.RowCount());
-  while (row > 0 && table.Row(row) != TableRow(draw)) --row;
-  return row;
-}
-
+// Everything is taken as it stands before the first yield: the line, the file that it makes, and
+// what to put back where it cannot be stored.
 void Entry::ReplaceEditedLine() {
-  const int number = place_.session.selected_list_row;
   MainWindow& window = place_.window;
+  OpenDatabase& database = place_.session.database;
+  const int place = place_.session.shown_place;
+  const int index = window.List7.RowWithKey(place);
+  const int row = window.ListView1.RowWithKey(place);
+  if (index < 0 || row == 0) return;
   const std::string line = LineOfBoxes();
-  const int row = RowOfLine(number, window.List7.Row(number - 1));
-  window.List7.RemoveItem(number - 1);
-  place_.Yield();
-  window.List7.InsertItem(number - 1, line);
-  if (row == 0) return;
-  // The table is what a close is written from, so it has to know the edit as well.
+  const std::string old_line = window.List7.Row(index);
+  const base::ListView::Cells old_row = window.ListView1.Row(row);
+  const Edit edit{.bytes = BytesOfLines(window.List7, database, index, line),
+                  .place = place,
+                  .date = window.txtDate.Text()};
+  const int loads = database.Loads();
   DrawRecord edited;
   ParseDrawLine(line, edited);
-  const base::ListView::Cells cells = TableRow(edited);
-  for (int cell = 0; cell < static_cast<int>(cells.size()); ++cell) {
-    window.ListView1.SetCell(row, cell, cells[static_cast<std::size_t>(cell)]);
+
+  window.List7.RemoveItem(index);
+  place_.Yield();
+  window.List7.InsertItem(index, line, place);
+  // The table is what a close is written from, so it has to know the edit as well.
+  PutLine(place, line, TableRow(edited));
+  place_.Yield();
+  if (neighbours_.DoDataBase(edit) || database.Loads() != loads) return;
+  PutLine(place, old_line, old_row);
+}
+
+void Entry::PutLine(int place, const std::string& line, const base::ListView::Cells& row) {
+  MainWindow& window = place_.window;
+  const int index = window.List7.RowWithKey(place);
+  if (index >= 0 && window.List7.Row(index) != line) {
+    window.List7.RemoveItem(index);
+    window.List7.InsertItem(index, line, place);
+  }
+  const int table_row = window.ListView1.RowWithKey(place);
+  if (table_row == 0) return;
+  for (int cell = 0; cell < static_cast<int>(row.size()); ++cell) {
+    window.ListView1.SetCell(table_row, cell, row[static_cast<std::size_t>(cell)]);
   }
 }
 

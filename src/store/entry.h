@@ -1,19 +1,14 @@
 #pragma once
 
+#include <array>
 #include <string>
-#include <string_view>
 
 #include "store/browsing.h"
+#include "store/guard.h"
+#include "store/working_copy.h"
 #include "store/workplace.h"
 
 namespace store {
-
-// The two-letter form of a day typed in one of its known spellings ("mo" "MO" "Mo", ...); any other
-// text is returned unchanged.
-std::string TwoLetterDay(std::string_view text);
-
-// The short form ("Mon") of a day text by the letters that it begins with, or the text itself.
-std::string ShortDay(std::string_view text);
 
 // Entering draws: adding, saving, clearing, editing in place, pasting a line.
 class Entry {
@@ -24,11 +19,12 @@ class Entry {
     virtual ~Neighbours() = default;
     virtual void ZeroItMainWindow() = 0;
     virtual void FillCommand4TagMainWindow() = 0;
-    virtual void DoDataBase() = 0;
+    // See WorkingCopy.
+    virtual bool DoDataBase(const Edit& edit) = 0;
   };
 
   Entry(Workplace place, Browsing& browsing, Neighbours& neighbours)
-      : place_(place), browsing_(browsing), neighbours_(neighbours) {}
+      : place_(place), browsing_(browsing), neighbours_(neighbours), guard_(place) {}
 
   // Gives the buttons of entry their events.
   void Wire();
@@ -43,20 +39,30 @@ class Entry {
 
   // Puts the product's name back where notices stand.
   void QNDLabels();
-  // Copies the boxes into current_draw, balls padded and the day in two letters.
-  void SaveFields();
   // Appends the boxes as a new draw. An error goes to the reporter, with the file as it was; false
-  // then.
+  // then, and where the file may not be written.
   bool SaveNewRecord();
   // Balls to two digits, and the day's two letters into day_text.
   void DoTextBox();
 
  private:
+  // What stands in the nine boxes.
+  struct Typed {
+    std::array<std::string, kBalls> balls;
+    std::string day;
+    std::string date;
+    int place_on_show = 0;
+  };
+  Typed Boxes() const;
+  void PutBack(const Typed& typed);
+
   void EnableBoxes();
   void StartEdit();
   void SaveEdit();
   void ReplaceEditedLine();
-  int RowOfLine(int number, const std::string& line) const;
+  void PutLine(int place, const std::string& line, const base::ListView::Cells& row);
+  bool SaveTyped();
+  bool IsStoredAlready();
   bool BoxesAreValid();
   void CheckValidData();
   bool CheckSaveBoxes(base::TextBox& box, const std::string& name);
@@ -67,6 +73,7 @@ class Entry {
   Workplace place_;
   Browsing& browsing_;
   Neighbours& neighbours_;
+  Guard guard_;
 };
 
 }  // namespace store

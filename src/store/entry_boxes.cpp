@@ -2,7 +2,7 @@
 
 #include "base/language/dates.h"
 #include "base/language/numbers.h"
-#include "store/entry.h"
+#include "store/draw_lists.h"
 
 namespace store {
 namespace {

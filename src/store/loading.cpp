@@ -2,6 +2,8 @@
 
 #include "base/language/dates.h"
 #include "base/language/text.h"
+#include "store/draw_lists.h"
+#include "store/draw_on_show.h"
 #include "store/headings.h"
 #include "store/setting_names.h"
 
@@ -22,13 +24,9 @@ bool ReadsDayFirst(base::DateOrder order) {
 
 }  // namespace
 
-base::ListView::Cells TableRow(const DrawRecord& record) {
-  base::ListView::Cells cells;
-  cells.reserve(9);
-  for (int k = 0; k < kBalls; ++k) cells.push_back(PadBall(record.Ball(k)));
-  cells.push_back(record.date);
-  cells.push_back(record.day);
-  return cells;
+bool IsDatabaseName(std::string_view name) {
+  return !name.empty() && name != "." && name != ".." &&
+         name.find_first_of("\\/") == std::string_view::npos;
 }
 
 void DoTextBoxExpandshion(MainWindow& window) {
@@ -72,20 +70,27 @@ void Loading::LoadFirstDatabase() {
     neighbours_.SetHelpFile(session.program_folder + "\\QND.HLP");
 
     const std::string path = DataBasesFolder(session) + session.data_base_name;
-    if (!world.files.FileExists(path)) {
+    const bool is_name = IsDatabaseName(session.data_base_name);
+    if (!is_name || !world.files.FileExists(path)) {
       place_.Ask({.text = "Database could not be found\r\n"
                           "Please load a database from the database window"});
     }
     session.data_base_path = path;
     place_.window.SetCaption(std::string(kWindowTitle) + DataBaseNameSetting(world.settings));
-    session.file.Close();
-    session.file.Open(path);
-    session.file_len = session.file.Length();
+    if (is_name) {
+      session.database.Open(path);
+    } else {
+      session.database.Close();
+    }
     FillHeadings(world.settings, DataBaseNameSetting(world.settings), place_.window);
   });
 }
 
 void Loading::Form_Activate() {
+  if (place_.desktop.IsHeld(place_.window)) return;
+  const base::Desktop::Hold hold(place_.desktop, place_.window);
+  // What comes in the yield must not find the flags of an earlier window.
+  place_.session.data_base_changed = false;
   Trapped(place_.reporter, "Form_Activate", [&] {
     Session& session = place_.session;
     MainWindow& window = place_.window;
@@ -119,14 +124,23 @@ void Loading::Form_Activate() {
 void Loading::FillBuffers() {
   Session& session = place_.session;
   MainWindow& window = place_.window;
-  session.buffers_complete = false;
+  OpenDatabase& database = session.database;
+  const bool was_complete = database.IsComplete();
+  const std::string before = was_complete ? database.Bytes() : std::string();
+  database.pending.clear();
+  database.log.ForgetPending();
   window.ListView1.Clear();
   window.List7.Clear();
-  WalkFile(session, [&] {
-    window.List7.AddItem(DrawLine(session.current_draw));
-    window.ListView1.AddRow(TableRow(session.current_draw));
-  });
-  session.buffers_complete = true;
+  try {
+    WalkFile(session, [&] {
+      window.List7.AddItem(DrawLine(session.current_draw), session.current_place);
+      window.ListView1.AddRow(TableRow(session.current_draw), session.current_place);
+    });
+  } catch (const base::Error&) {
+    SetDrawOnShow(session, window, 0);
+    throw;
+  }
+  if (was_complete && database.Bytes() != before) database.log.Clear();
   window.ListView1.Select(1);
   browsing_.FillFromListView();
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "store/browsing.h"
 #include "store/workplace.h"
 
@@ -42,7 +45,7 @@ class Loading {
 // Sets the range of the strip's scroll bar, which shows while the strip is wider than its frame.
 void DoTextBoxExpandshion(MainWindow& window);
 
-// One row of the draw table: balls padded, date, day.
-base::ListView::Cells TableRow(const DrawRecord& record);
+// A database is a file of its own folder: a name with a separator in it is none.
+bool IsDatabaseName(std::string_view name);
 
 }  // namespace store

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/language/numbers.h"
+#include "store/draw_on_show.h"
 #include "store/draw_record.h"
 
 namespace store {
@@ -28,7 +29,11 @@ void RowEditor::Wire() {
 
 void RowEditor::ListView1_DblClick() {
   MainWindow& window = place_.window;
-  const base::ListView::Cells row = window.ListView1.Row(window.ListView1.SelectedIndex());
+  const int selected = window.ListView1.SelectedIndex();
+  const base::ListView::Cells row = window.ListView1.Row(selected);
+  const OpenDatabase& database = place_.session.database;
+  opened_on_ = window.ListView1.Key(selected);
+  window.Label18.SetEnabled(database.IsComplete() && !database.IsBlank(opened_on_));
   window.Picture6.BringToFront();
   window.Picture6.SetVisible(true);
   for (int cell = 0; cell < kCells; ++cell) {
@@ -38,6 +43,7 @@ void RowEditor::ListView1_DblClick() {
 
 void RowEditor::Label18_Click() {
   MainWindow& window = place_.window;
+  if (place_.desktop.IsHeld(window)) return;
   place_.session.data_base_changed = true;
   window.Picture6.SetVisible(true);
   for (int ball = 0; ball < kBalls; ++ball) {
@@ -48,28 +54,56 @@ void RowEditor::Label18_Click() {
     place_.Ask({.text = "Please check the date is in this format 00/00/00"});
     return;
   }
-  for (int cell = 0; cell < kCells; ++cell) {
-    window.ListView1.SetCell(window.ListView1.SelectedIndex(), cell, window.TxtChange(cell).Text());
-  }
+  base::ListView::Cells cells;
+  for (int cell = 0; cell < kCells; ++cell) cells.push_back(window.TxtChange(cell).Text());
+  Change(opened_on_, std::move(cells));
   window.Picture6.SetVisible(false);
+}
+
+// Of a draw that was removed meanwhile there is no row to write to.
+void RowEditor::Change(int draw, base::ListView::Cells cells) {
+  OpenDatabase& database = place_.session.database;
+  base::ListView& table = place_.window.ListView1;
+  const int row = table.RowWithKey(draw);
+  if (row == 0 || table.Row(row) == cells) return;
+  database.log.Add({.told = "Draw of " + cells[kDateCell] + " changed",
+                    .pending_before = database.pending,
+                    .place = draw});
+  for (int cell = 0; cell < kCells; ++cell) {
+    table.SetCell(row, cell, cells[static_cast<std::size_t>(cell)]);
+  }
+  database.pending[draw] = std::move(cells);
 }
 
 void RowEditor::CmdCancelSave_Click() { place_.window.Picture6.SetVisible(false); }
 
 void RowEditor::Command18_Click() {
+  if (place_.desktop.IsHeld(place_.window)) return;
   place_.session.data_base_changed = true;
   SaveItToTemp();
 }
 
 void RowEditor::SaveItToTemp() {
+  Session& session = place_.session;
+  OpenDatabase& database = session.database;
   base::ListView& table = place_.window.ListView1;
-  const int row = table.SelectedIndex();
+  const int draw = session.shown_place;
+  const int row = table.RowWithKey(draw);
+  if (row == 0) return;
+  if (!database.IsBlank(draw)) {
+    database.log.Add({.told = "Draw of " + table.Cell(row, kDateCell) + " removed",
+                      .pending_before = database.pending,
+                      .place = draw});
+    database.pending[draw] = std::nullopt;
+  }
   table.RemoveRow(row);
+  SetDrawOnShow(session, place_.window, 0);
   place_.desktop.SetFocus(table);
   const int next = std::min(row, table.RowCount());
   table.Select(next);
   table.EnsureVisible(next);
-  place_.session.selected_list_row = base::ToInt16(next);
+  session.selected_list_row = base::ToInt16(next);
+  if (next > 0) browsing_.FillFromListView();
 }
 
 }  // namespace store

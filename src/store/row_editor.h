@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/browsing.h"
 #include "store/workplace.h"
 
 namespace store {
@@ -7,7 +8,7 @@ namespace store {
 // Correcting and removing draws in the table. Both reach the file when the window closes.
 class RowEditor {
  public:
-  explicit RowEditor(Workplace place) : place_(place) {}
+  RowEditor(Workplace place, Browsing& browsing) : place_(place), browsing_(browsing) {}
 
   void Wire();
 
@@ -15,11 +16,15 @@ class RowEditor {
   void Label18_Click();  // accept
   void CmdCancelSave_Click();
   void Command18_Click();  // remove
-  // Takes the selected row out of the table and selects the one that follows it.
+  // Takes the draw on show out of the table and shows the one that takes its place.
   void SaveItToTemp();
 
  private:
+  void Change(int draw, base::ListView::Cells cells);
+
   Workplace place_;
+  Browsing& browsing_;
+  int opened_on_ = 0;  // the place of the draw that the panel was opened on
 };
 
 }  // namespace store

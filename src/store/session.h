@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "base/controls/control.h"
-#include "store/draw_file.h"
 #include "store/draw_record.h"
+#include "store/open_database.h"
 
 namespace store {
 
@@ -26,24 +26,23 @@ struct BarColours {
 
 // Everything that the windows and procedures of one desk share.
 struct Session {
-  explicit Session(base::FileSystem& files) : file(files) {}
+  explicit Session(base::FileSystem& files) : database(files) {}
 
   // The open database.
   std::string program_folder;
-  DrawFile file;
-  DrawRecord current_draw;                // the one buffer of every read and write of the file
-  std::vector<std::int32_t> draw_pos{0};  // position of record n at n; element 0 holds nothing
+  OpenDatabase database;    // file number 1
+  DrawRecord current_draw;  // the one buffer of every read and write of the file
+  int current_place = 0;    // of current_draw among the draws, as it was read
   std::int16_t draw_count = 0;
   std::int32_t file_pos = 0;
-  std::int32_t file_len = 0;
   std::string data_base_name;
   std::string data_base_path;
   std::string temp_path;
   bool data_base_changed = false;
-  // The table holds every record of the file. Nothing is ever rewritten from one that does not.
-  bool buffers_complete = false;
 
-  // The draw on show.
+  // The draw on show: its place among the draws of the file, 0 for none; the other numbers count in
+  // ways of their own.
+  int shown_place = 0;
   float current_draw_number = 0;
   std::array<std::uint8_t, kBalls> current_balls{};
   std::string shown_day;
@@ -83,39 +82,39 @@ struct Session {
   std::int16_t loop_j = 0;
 
   // The highest draw number that the index knows.
-  int UpperBound() const { return static_cast<int>(draw_pos.size()) - 1; }
-  // The position of a draw; error 9 outside the index.
-  std::int32_t PositionOf(double draw_number) const;
+  int UpperBound() const { return database.UpperBound(); }
   // Reads the draw of this number into current_draw and moves file_pos to it.
   void ReadDraw(double draw_number);
 };
 
-// Walks the whole file from its first byte: fills draw_pos, draw_count and file_pos, and calls
+// Walks the whole file from its first byte: fills the index, draw_count and file_pos, and calls
 // `visit` for each record in current_draw. An empty file is one blank record. Error 6 at the
-// 32,768th record. After an error draw_pos holds the records that were reached.
+// 32,768th record. After an error the index holds the records that were reached.
 template <typename Visit>
 void WalkFile(Session& session, Visit visit);
 void WalkFile(Session& session);
 
-// Appends current_draw, and brings file_pos, draw_pos, draw_count, current_draw_number and file_len
-// up to date.
+// Appends current_draw, and brings the index, file_pos, draw_count and current_draw_number up to
+// date.
 void AppendCurrentDraw(Session& session);
+
+// Brings file_pos, draw_count and current_draw to what a walk to the end of the file leaves.
+void GoToEnd(Session& session);
 
 // --- implementation
 
-void IndexNextRecord(Session& session, std::int32_t& position);
+void IndexNextRecord(Session& session);
 
 template <typename Visit>
 void WalkFile(Session& session, Visit visit) {
-  session.draw_pos.resize(1);  // what a walk that fails does not reach is not in another's place
   session.draw_count = 0;
   session.file_pos = 1;
-  std::int32_t position = 1;
-  const std::int32_t length = session.file.Length();
+  session.database.BeginWalk();
   do {
-    IndexNextRecord(session, position);
+    IndexNextRecord(session);
     visit();
-  } while (position < length);
+  } while (session.file_pos < session.database.Length());
+  session.database.EndWalk();
 }
 
 }  // namespace store

@@ -1,157 +1,201 @@
 #include "store/working_copy.h"
 
+#include <algorithm>
+
 #include "base/language/error.h"
 #include "base/language/numbers.h"
-#include "store/headings.h"
-#include "store/setting_names.h"
+#include "store/draw_lists.h"
+#include "store/draw_on_show.h"
+#include "store/earlier_states.h"
 
 namespace store {
 namespace {
 
-// Records gathered for one write, with the positions that they will have.
-struct Batch {
-  std::string bytes;
-  std::vector<std::int32_t> positions;
-};
-
-void Add(Batch& batch, std::int32_t length_before, const DrawRecord& record) {
-  batch.positions.push_back(length_before + static_cast<std::int32_t>(batch.bytes.size()) + 1);
-  batch.bytes += EncodeRecord(record);
-}
-
-// Brings the index to what appending the batch's records one by one leaves.
-void IndexBatch(Session& session, const Batch& batch) {
-  if (batch.positions.empty()) return;
-  session.file_pos = batch.positions.back();
-  session.draw_pos.insert(session.draw_pos.end(), batch.positions.begin(), batch.positions.end());
-  session.draw_count = base::ToInt16(session.UpperBound());
-  session.current_draw_number = static_cast<float>(session.draw_count) + 1;
+// The table has every draw but those that were removed by hand.
+bool IsWhole(const base::ListView& table, const OpenDatabase& database) {
+  const auto removed = std::count_if(database.pending.begin(), database.pending.end(),
+                                     [](const auto& row) { return !row.second.has_value(); });
+  const bool has_blank = database.BeginsBlank() && table.RowWithKey(1) > 0;
+  const int draws = database.UpperBound() - (database.BeginsBlank() ? 1 : 0);
+  return table.RowCount() - (has_blank ? 1 : 0) + removed >= draws;
 }
 
 }  // namespace
 
-std::string WorkingCopy::DataBasePath() const {
-  std::string name = DataBaseNameSetting(place_.World().settings);
-  if (name.empty()) name = kDefaultDataBase;
-  return place_.session.program_folder + "\\DataBases\\" + name;
+// --- After an edit
+
+bool WorkingCopy::DoDataBase(const Edit& edit) {
+  Session& session = place_.session;
+  SetTempAside();
+  session.temp_path = session.program_folder + "\\Temp.dat";
+  place_.Yield();
+  GoThroughLines();
+  place_.Yield();
+  const bool stored = Write(edit);
+  place_.Yield();
+  if (stored) GoToEnd(session);
+  place_.Yield();
+  if (stored) ShowEdited();
+  session.temp_path.clear();
+  return stored;
 }
 
-void WorkingCopy::DoDataBase() {
+// Draws that an older desk left there when it was killed belong to a database that nobody knows any
+// more. They are kept, and no edit takes them in.
+void WorkingCopy::SetTempAside() {
+  base::FileSystem& files = place_.World().files;
+  const std::string temp = place_.session.program_folder + "\\Temp.dat";
+  if (!files.IsTaken(temp)) return;
+  std::string aside = temp + ".old";
+  for (int number = 2; files.IsTaken(aside); ++number) {
+    aside = temp + ".old" + std::to_string(number);
+  }
+  try {
+    files.Rename(temp, aside);
+  } catch (const base::Error&) {
+    // It stays where it is, unread.
+  }
+}
+
+void WorkingCopy::GoThroughLines() {
+  Session& session = place_.session;
+  base::ListBox& lines = place_.window.List7;
+  lines.SetEnabled(false);
+  const int last = lines.ListCount() - 1;
+  lines.SetListIndex(last);
+  if (last >= 0) {
+    session.current_draw.spare = 0;
+    ParseDrawLine(lines.Row(last), session.current_draw);
+    session.current_draw.day = TwoLetterDay(session.current_draw.day);
+    session.current_place = lines.Key(last);
+  }
+  session.current_draw_number = static_cast<float>(lines.ListCount() + 1);
+  lines.SetEnabled(true);
+}
+
+bool WorkingCopy::Write(const Edit& edit) {
+  OpenDatabase& database = place_.session.database;
+  bool stored = false;
+  Trapped(place_.reporter, "DoDataBase", [&] {
+    const std::string before = database.Bytes();
+    stored = edit.bytes == before;
+    if (stored || !guard_.MayWrite()) return;
+    guard_.Rewrite(edit.bytes);
+    stored = true;
+    database.log.Add({.told = "Draw of " + edit.date + " changed",
+                      .bytes = ChangeOf(before, edit.bytes),
+                      .pending_before = database.pending,
+                      .place = edit.place});
+    database.pending.erase(edit.place);
+  });
+  return stored;
+}
+
+void WorkingCopy::ShowEdited() {
   Session& session = place_.session;
   MainWindow& window = place_.window;
-  base::FileSystem& files = place_.World().files;
-  const std::string database = DataBasePath();
-  try {
-    session.file.Close();
-    session.temp_path = session.program_folder + "\\Temp.dat";
-    place_.Yield();
-    session.file.Open(session.temp_path);
-    session.file_len = session.file.Length();
-    WalkFile(session);
-    window.List7.SetEnabled(false);
-    AppendLines();
-    window.List7.SetEnabled(true);
-    session.file.Close();
-    place_.Yield();
-    files.Replace(database, files.ReadAll(session.temp_path));
-    files.Remove(session.temp_path);
-  } catch (const base::Error& error) {
-    window.List7.SetEnabled(true);
-    DropTemp();
-    place_.reporter.Report("DoDataBase", error);
-  } catch (const base::WindowClosed&) {
-    DropTemp();
-    throw;
-  }
   Trapped(place_.reporter, "DoDataBase", [&] {
-    session.data_base_path = database;
-    place_.Yield();
-    Reopen();
     window.tbar3.SetEnabled(false);
     window.cmdSave.SetEnabled(false);
     window.cmdClear.SetEnabled(false);
     browsing_.EnableTheButtons(true);
     browsing_.cmdFirst_Click();
     if (!session.current_draw.b[0].empty()) browsing_.cmdLast_Click();
-    session.temp_path.clear();
     session.data_base_name.clear();
   });
 }
 
-// What a broken rewrite gathered must not stand in front of the next one. The database is whole.
-void WorkingCopy::DropTemp() {
-  place_.session.file.Close();
-  try {
-    place_.World().files.Remove(place_.session.temp_path);
-  } catch (const base::Error&) {
-    // There was none yet.
-  }
-}
-
-void WorkingCopy::AppendLines() {
-  Session& session = place_.session;
-  base::ListBox& lines = place_.window.List7;
-  Batch batch;
-  for (int row = 0; row < lines.ListCount(); ++row) {
-    lines.SetListIndex(row);
-    ParseDrawLine(lines.Text(), session.current_draw);
-    session.current_draw.day = TwoLetterDay(session.current_draw.day);
-    Add(batch, session.file_len, session.current_draw);
-  }
-  // In one step: part of a record, left by a kill, would stand in front of the next edit and make
-  // every record behind it unreadable.
-  base::FileSystem& files = place_.World().files;
-  files.Replace(session.temp_path, files.ReadAll(session.temp_path) + batch.bytes);
-  session.file.Open(session.temp_path);
-  session.file_len = session.file.Length();
-  IndexBatch(session, batch);
-}
-
-void WorkingCopy::Reopen() {
-  Session& session = place_.session;
-  session.file.Open(session.data_base_path);
-  session.file_len = session.file.Length();
-  place_.Yield();
-  WalkFile(session);
-}
+// --- From the table
 
 void WorkingCopy::RewriteFromTable() {
   Session& session = place_.session;
-  if (!session.data_base_changed || !session.buffers_complete) return;
-  Trapped(place_.reporter, "Form_Unload", [&] { AppendRows(); });
+  OpenDatabase& database = session.database;
+  if (!session.data_base_changed && !database.keeps_own_rows) return;
+  if (!database.IsComplete()) return;
+  Trapped(place_.reporter, "Form_Unload", [&] {
+    const base::ListView& table = place_.window.ListView1;
+    if (!IsWhole(table, database)) return;
+    const std::string bytes = BytesOfRows(table, database, session.current_draw.spare);
+    GoThroughRows();
+    if (bytes == database.Bytes() && !database.keeps_own_rows) return;
+    if (guard_.MayWriteAtClose()) {
+      WriteRows(bytes);
+    } else if (database.keeps_own_rows) {
+      KeepOwnRows(bytes);
+    }
+  });
 }
 
-// Copies a row by way of the boxes into current_draw. A row that the boxes cannot show, because a
-// ball of it is no number, is taken as it stands.
-void WorkingCopy::TakeRow(int row) {
-  try {
-    browsing_.ShowSelectedRow();
-    entry_.SaveFields();
-  } catch (const base::Error&) {
-    const base::ListView::Cells& cells = place_.window.ListView1.Row(row);
-    DrawRecord& draw = place_.session.current_draw;
-    for (int k = 0; k < kBalls; ++k) draw.Ball(k) = PadBall(cells[static_cast<std::size_t>(k)]);
-    draw.date = cells[kBalls];
-    draw.day = TwoLetterDay(cells[kBalls + 1]);
-  }
-}
-
-void WorkingCopy::AppendRows() {
+// Leaves what showing and copying one row after the other leaves.
+void WorkingCopy::GoThroughRows() {
   Session& session = place_.session;
   base::ListView& table = place_.window.ListView1;
-  Batch batch;
-  for (int row = 1; row <= table.RowCount(); ++row) {
-    table.Select(row);
-    TakeRow(row);
-    Add(batch, 0, session.current_draw);
+  if (table.RowCount() > 0) {
+    table.Select(table.RowCount());
+    try {
+      browsing_.ShowSelectedRow();
+    } catch (const base::Error&) {
+      // A row that the boxes cannot show is written as it stands.
+    }
+    const std::int16_t spare = session.current_draw.spare;
+    session.current_draw = RecordOfRow(table.Row(table.RowCount()));
+    session.current_draw.spare = spare;
   }
-  session.data_base_path =
-      session.program_folder + "\\DataBases\\" + DataBaseNameSetting(place_.World().settings);
-  place_.World().files.Replace(session.data_base_path, batch.bytes);
-  session.file.Open(session.data_base_path);
-  session.file_len = session.file.Length();
-  session.draw_pos = {0};
-  IndexBatch(session, batch);
+  session.file_pos = session.database.Positions().back();
+  session.draw_count = base::ToInt16(session.UpperBound());
+  session.current_draw_number = static_cast<float>(session.draw_count) + 1;
+}
+
+void WorkingCopy::WriteRows(const std::string& bytes) {
+  Session& session = place_.session;
+  guard_.Rewrite(bytes);
+  session.file_pos = session.database.Positions().back();
+  session.draw_count = base::ToInt16(session.UpperBound());
+  session.current_draw_number = static_cast<float>(session.draw_count) + 1;
+}
+
+void WorkingCopy::KeepOwnRows(const std::string& bytes) {
+  const OpenDatabase& database = place_.session.database;
+  base::FileSystem& files = place_.World().files;
+  const std::string own = FreeName(files, database.Path(), "own", place_.World().clock.Now());
+  files.Replace(own, bytes);
+  place_.Ask({.text = "The draws that the desk held are kept as " + DatabaseName(own) + ".dat",
+              .icon = base::BoxIcon::kInformation});
+}
+
+void WorkingCopy::StorePending() {
+  Session& session = place_.session;
+  OpenDatabase& database = session.database;
+  base::ListView& table = place_.window.ListView1;
+  if (database.pending.empty() || place_.desktop.IsHeld(place_.window)) return;
+  const base::Desktop::Hold hold(place_.desktop, place_.window);
+  Trapped(place_.reporter, "StorePending", [&] {
+    if (!IsWhole(table, database)) return;
+    const std::string before = database.Bytes();
+    const std::string bytes = BytesOfRows(table, database, session.current_draw.spare);
+    if (bytes != before) {
+      if (!guard_.MayWrite()) return;
+      guard_.Rewrite(bytes);
+    }
+    database.log.Add(
+        {.bytes = ChangeOf(before, bytes), .pending_before = std::move(database.pending)});
+    database.pending.clear();
+    session.data_base_changed = false;
+    ShowStored(table.SelectedIndex(), table.RowWithKey(session.shown_place));
+  });
+}
+
+// The draws have the places of their rows now. What stands in the boxes stays there.
+void WorkingCopy::ShowStored(int selected, int shown) {
+  Session& session = place_.session;
+  MainWindow& window = place_.window;
+  FillLists(session, window);
+  window.ListView1.Select(std::min(selected, window.ListView1.RowCount()));
+  window.ListView1.EnsureVisible(window.ListView1.SelectedIndex());
+  session.current_place = 0;
+  session.shown_place = shown;
+  session.draw_count = base::ToInt16(session.UpperBound());
+  EnableChanges(session, window);
 }
 
 }  // namespace store

@@ -105,16 +105,19 @@ TEST(MainScan, AsksBeforeANewScanAndDoublesFiguresAfterIt) {
   EXPECT_EQ(desk.Main().List1.Row(0), "01.95 01");
 }
 
-TEST(MainScan, NoToTheNewScanLeavesTheCounts) {
+TEST(MainScan, NoToTheNewScanLeavesTheCountsAndTheButtons) {
   TestDesk desk(SevenBallDraws(40));
   desk.Start();
   desk.User().Click(desk.Main().CmdScan);
+  desk.Main().cmdPrev.SetEnabled(false);
   desk.boxes.answers = {Answer::kNo};
   desk.User().Click(desk.Main().CmdScan);
   EXPECT_EQ(desk.Main().CmdScan.Caption(), "Scan");
   EXPECT_EQ(desk.Main().ProgressBar1(1).Value(), 40);
-  EXPECT_FALSE(desk.Main().lblbuttons(2).Enabled());
-  EXPECT_FALSE(desk.Main().cmdFirst.Enabled());
+  EXPECT_TRUE(desk.Main().lblbuttons(2).Enabled());
+  EXPECT_TRUE(desk.Main().cmdAdd.Enabled());
+  EXPECT_TRUE(desk.Main().cmdFirst.Enabled());
+  EXPECT_FALSE(desk.Main().cmdPrev.Enabled());
 }
 
 TEST(MainScan, FiltersByDay) {

@@ -130,7 +130,7 @@ TEST(Browsing, EmptyTableLoadsTheBuffersAgain) {
   EXPECT_EQ(desk.boxes.shown[0].text,
             "An error has occured loading the draw results in to QND's buffers\r\n"
             "QND will now attempt to reload the buffers");
-  EXPECT_TRUE(desk.Session().file.IsOpen());
+  EXPECT_TRUE(desk.Session().database.IsOpen());
 }
 
 TEST(DayFilter, StepsToTheFirstDrawOfTheDay) {

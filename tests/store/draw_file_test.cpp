@@ -21,6 +21,7 @@ class MemoryFiles : public base::NoFiles {
       if (offset >= Length()) return {};
       return owner_.bytes.substr(static_cast<std::size_t>(offset), count);
     }
+    base::FileIdentity Identity() override { return {.number = 1, .size = Length()}; }
     void Append(std::string_view bytes) override { owner_.bytes += bytes; }
 
    private:
@@ -48,20 +49,10 @@ TEST(DrawFile, ReadsTheDiskRarely) {
   MemoryFiles files;
   files.bytes = Encode(SampleDraws(2000));
   store::Session session(files);
-  session.file.Open("x");
+  session.database.Open("x");
   WalkFile(session);
   EXPECT_EQ(session.draw_count, 2000);
   EXPECT_LT(files.reads, 20);
-}
-
-TEST(DrawFile, WritesOnlyBehindTheEnd) {
-  MemoryFiles files;
-  files.bytes = Encode(SampleDraws(1));
-  store::DrawFile file(files);
-  file.Open("x");
-  EXPECT_THROW(file.Write(1, SampleDraws(1)[0]), base::Error);
-  file.Write(45, SampleDraws(1)[0]);
-  EXPECT_EQ(files.bytes, Encode(SampleDraws(1)) + Encode(SampleDraws(1)));
 }
 
 TEST(DrawFile, SeesWhatItAppended) {
@@ -70,9 +61,35 @@ TEST(DrawFile, SeesWhatItAppended) {
   file.Open("x");
   store::DrawRecord record;
   EXPECT_EQ(file.Read(1, record), 1);
-  file.Write(1, SampleDraws(3)[2]);
+  file.Append(store::EncodeRecord(SampleDraws(3)[2]));
+  EXPECT_EQ(file.Length(), 44);
   EXPECT_EQ(file.Read(1, record), 45);
   EXPECT_EQ(record, SampleDraws(3)[2]);
+}
+
+TEST(DrawFile, AppendsOnlyToWhatWasReadToItsEnd) {
+  MemoryFiles files;
+  files.bytes = Encode(SampleDraws(1));
+  store::DrawFile file(files);
+  file.Open("x");
+  EXPECT_THROW(file.Append("y"), base::Error);
+  EXPECT_EQ(files.bytes, Encode(SampleDraws(1)));
+}
+
+// What was read once is not asked of the disk again, so that a scan sees the file as it was opened.
+TEST(DrawFile, KeepsWhatItRead) {
+  MemoryFiles files;
+  files.bytes = Encode(SampleDraws(2));
+  store::DrawFile file(files);
+  file.Open("x");
+  store::DrawRecord record;
+  file.Read(1, record);
+  files.bytes = "";
+  EXPECT_EQ(file.Read(45, record), 89);
+  EXPECT_EQ(record, SampleDraws(2)[1]);
+  file.Forget();
+  EXPECT_EQ(file.Read(1, record), 1);
+  EXPECT_EQ(file.Length(), 0);
 }
 
 TEST(DrawFile, ClosedIsABadFileNumber) {
@@ -89,10 +106,11 @@ TEST(DrawFile, ClosedIsABadFileNumber) {
 TEST(DrawFile, ReadsBlankFieldsFromAnEmptyFile) {
   MemoryFiles files;
   store::Session session(files);
-  session.file.Open("x");
+  session.database.Open("x");
   WalkFile(session);
   EXPECT_EQ(session.draw_count, 1);
-  EXPECT_EQ(session.draw_pos, (std::vector<std::int32_t>{0, 1}));
+  EXPECT_EQ(session.database.Positions(), (std::vector<std::int32_t>{0, 1}));
+  EXPECT_TRUE(session.database.BeginsBlank());
   EXPECT_EQ(session.current_draw, store::DrawRecord{});
 }
 
@@ -100,25 +118,25 @@ TEST(DrawFile, AppendingKeepsTheIndexInStep) {
   MemoryFiles files;
   files.bytes = Encode(SampleDraws(2));
   store::Session session(files);
-  session.file.Open("x");
-  session.file_len = session.file.Length();
+  session.database.Open("x");
   WalkFile(session);
   session.current_draw = SampleDraws(3)[2];
   AppendCurrentDraw(session);
-  EXPECT_EQ(session.draw_pos, (std::vector<std::int32_t>{0, 1, 45, 89}));
+  EXPECT_EQ(session.database.Positions(), (std::vector<std::int32_t>{0, 1, 45, 89}));
   EXPECT_EQ(session.draw_count, 3);
   EXPECT_EQ(session.current_draw_number, 4);
   EXPECT_EQ(session.file_pos, 89);
-  EXPECT_EQ(session.file_len, 132);
+  EXPECT_EQ(session.database.Length(), 132);
 }
 
 TEST(DrawFile, AppendingBeyondTheCounterOverflowsBeforeItWrites) {
   MemoryFiles files;
+  files.bytes = Encode(SampleDraws(32767));
   store::Session session(files);
-  session.file.Open("x");
-  session.draw_pos.resize(32768);
+  session.database.Open("x");
+  WalkFile(session);
   EXPECT_THROW(AppendCurrentDraw(session), base::Error);
-  EXPECT_EQ(files.bytes, "");
+  EXPECT_EQ(files.bytes.size(), 32767u * 44);
 }
 
 TEST(DrawFile, KeepsSpareOfTheLastRecordRead) {
@@ -136,8 +154,8 @@ TEST(DrawFile, KeepsSpareOfTheLastRecordRead) {
 TEST(Session, AnIndexOutsideTheFileIsASubscriptError) {
   MemoryFiles files;
   store::Session session(files);
-  EXPECT_THROW(session.PositionOf(1), base::Error);
-  EXPECT_EQ(session.PositionOf(0), 0);
+  EXPECT_THROW(session.database.PositionOf(1), base::Error);
+  EXPECT_EQ(session.database.PositionOf(0), 0);
 }
 
 }  // namespace

@@ -18,9 +18,9 @@ TEST(Loading, FillsAllFourPlaces) {
   desk.Start();
   const store::Session& session = desk.Session();
   EXPECT_EQ(session.UpperBound(), 40);
-  EXPECT_EQ(session.draw_pos[1], 1);
-  EXPECT_EQ(session.draw_pos[2], 45);
-  EXPECT_EQ(session.file_len, 40 * 44);
+  EXPECT_EQ(session.database.Positions()[1], 1);
+  EXPECT_EQ(session.database.Positions()[2], 45);
+  EXPECT_EQ(session.database.Length(), 40 * 44);
   EXPECT_EQ(desk.Main().List7.ListCount(), 40);
   EXPECT_EQ(desk.Main().ListView1.RowCount(), 40);
   EXPECT_EQ(desk.Main().List7.Row(0), store::DrawLine(SampleDraws(1)[0]));
@@ -72,7 +72,7 @@ TEST(Loading, AnEmptyDatabaseIsOneBlankRecord) {
   TestDesk desk(std::vector<store::DrawRecord>{});
   desk.Start();
   EXPECT_EQ(desk.Session().draw_count, 1);
-  EXPECT_EQ(desk.Session().draw_pos[1], 1);
+  EXPECT_EQ(desk.Session().database.Positions()[1], 1);
   EXPECT_EQ(desk.Main().ListView1.RowCount(), 1);
   EXPECT_EQ(desk.Main().ListView1.Cell(1, 0), "00");
   EXPECT_EQ(desk.Main().ListView1.Cell(1, 7), "");
@@ -90,7 +90,6 @@ TEST(Loading, FillsAgainBelowThirtyDraws) {
   TestDesk small(SampleDraws(29));
   small.Start();
   small.WriteDatabase(Encode(SampleDraws(5)));
-  small.Session().file.Open(small.Session().data_base_path);
   small.User().Switch(small.Main());
   EXPECT_EQ(small.Main().ListView1.RowCount(), 5);
 

@@ -55,5 +55,98 @@ TEST(RowEditor, RemovalReachesTheFileAtTheClose) {
   EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(39)));
 }
 
+// Next moved the selection under the open panel, and Accept wrote to the row that it had come to.
+TEST(RowEditor, WritesToTheRowThatItWasOpenedOn) {
+  TestDesk desk;
+  desk.Start();
+  store::MainWindow& window = desk.Main();
+  desk.User().Pick(window.ListView1, 3);
+  desk.User().DoubleClick(window.ListView1);
+  window.TxtChange(0).SetText("09");
+  desk.User().Click(window.cmdNext);
+  desk.User().Click(window.Label18);
+  EXPECT_EQ(window.ListView1.Cell(3, 0), "09");
+  EXPECT_EQ(window.ListView1.Row(4)[0], SampleDraws(4)[3].b[0]);
+}
+
+TEST(RowEditor, OfARemovedRowNothingIsWritten) {
+  TestDesk desk;
+  desk.Start();
+  store::MainWindow& window = desk.Main();
+  desk.User().Pick(window.ListView1, 3);
+  desk.User().DoubleClick(window.ListView1);
+  window.TxtChange(0).SetText("99");
+  desk.User().Click(window.Command18);
+  desk.User().Click(window.Label18);
+  EXPECT_FALSE(window.Picture6.Visible());
+  desk.Desk().Stop();
+  auto expected = SampleDraws(40);
+  expected.erase(expected.begin() + 2);
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+}
+
+TEST(RowEditor, TakesNothingForABlankRow) {
+  TestDesk desk(std::vector<store::DrawRecord>{});
+  desk.Start();
+  desk.User().DoubleClick(desk.Main().ListView1);
+  EXPECT_FALSE(desk.Main().Label18.Enabled());
+}
+
+// The row that took the place of a removed one was selected, but the removed draw stood in the
+// boxes: Edit and Save then destroyed another.
+TEST(RowEditor, ShowsTheRowThatTakesThePlaceOfARemovedOne) {
+  TestDesk desk;
+  desk.Start();
+  desk.User().Pick(desk.Main().ListView1, 5);
+  desk.User().Click(desk.Main().Command18);
+  EXPECT_EQ(desk.Main().txtDate.Text(), SampleDraws(6)[5].date);
+  EXPECT_EQ(desk.Main().txtRecNum.Text(), "4");
+  desk.User().Click(desk.Main().cmdedit);
+  desk.Main().TxtBall06.SetText("49");
+  desk.User().Click(desk.Main().cmdedit);
+  desk.Desk().Stop();
+  auto expected = SampleDraws(40);
+  expected[5].b[5] = "49";
+  expected.erase(expected.begin() + 4);
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+}
+
+// The selected row of the table was removed, which after a pick in the line list is another draw.
+TEST(RowEditor, RemovesTheDrawOnShow) {
+  TestDesk desk;
+  desk.Start();
+  desk.User().Pick(desk.Main().ListView1, 3);
+  desk.User().Pick(desk.Main().List7, 9);
+  desk.User().Click(desk.Main().Command18);
+  desk.Desk().Stop();
+  auto expected = SampleDraws(40);
+  expected.erase(expected.begin() + 9);
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+}
+
+TEST(RowEditor, ARemovedDrawCanBeNeitherEditedNorRemovedAgain) {
+  TestDesk desk;
+  desk.Start();
+  desk.User().Pick(desk.Main().ListView1, 3);
+  desk.User().Click(desk.Main().Command18);
+  desk.User().Pick(desk.Main().List7, 2);
+  EXPECT_EQ(desk.Main().txtDate.Text(), SampleDraws(3)[2].date);
+  EXPECT_FALSE(desk.Main().cmdedit.Enabled());
+  EXPECT_FALSE(desk.Main().Command18.Enabled());
+  desk.User().Pick(desk.Main().List7, 3);
+  EXPECT_TRUE(desk.Main().cmdedit.Enabled());
+}
+
+TEST(RowEditor, TheLastRowLeftCanBeRemoved) {
+  TestDesk desk(SampleDraws(1));
+  desk.Start();
+  desk.User().Click(desk.Main().Command18);
+  EXPECT_EQ(desk.Main().ListView1.RowCount(), 0);
+  EXPECT_FALSE(desk.Main().Command18.Enabled());
+  EXPECT_FALSE(desk.Main().cmdedit.Enabled());
+  desk.Desk().Stop();
+  EXPECT_EQ(desk.DatabaseBytes(), "");
+}
+
 }  // namespace
 }  // namespace test

@@ -8,6 +8,7 @@ class FailingFile : public base::File {
   FailingFile(FailingDisk& disk, std::unique_ptr<base::File> file)
       : disk_(disk), file_(std::move(file)) {}
   std::int64_t Length() override { return file_->Length(); }
+  base::FileIdentity Identity() override { return file_->Identity(); }
   std::string ReadAt(std::int64_t offset, std::size_t count) override {
     disk_.Count();
     return file_->ReadAt(offset, count);
@@ -67,6 +68,21 @@ void FailingDisk::Replace(const std::string& path, std::string_view bytes) {
 void FailingDisk::Remove(const std::string& path) {
   Count();
   disk_.Remove(path);
+}
+
+std::optional<base::FileIdentity> FailingDisk::Identify(const std::string& path) {
+  Count();
+  return disk_.Identify(path);
+}
+
+void FailingDisk::Rename(const std::string& path, const std::string& new_path) {
+  Count();
+  disk_.Rename(path, new_path);
+}
+
+void FailingDisk::Keep(const std::string& path, const std::string& second_path) {
+  Count();
+  disk_.Keep(path, second_path);
 }
 
 }  // namespace test

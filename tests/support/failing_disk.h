@@ -25,10 +25,15 @@ class FailingDisk : public base::FileSystem {
 
   bool FileExists(const std::string& path) override { return disk_.FileExists(path); }
   bool FolderExists(const std::string& path) override { return disk_.FolderExists(path); }
+  bool IsTaken(const std::string& path) override { return disk_.IsTaken(path); }
+  std::optional<base::FileIdentity> Identify(const std::string& path) override;
   std::unique_ptr<base::File> Open(const std::string& path) override;
   std::string ReadAll(const std::string& path) override;
   void Replace(const std::string& path, std::string_view bytes) override;
   void Remove(const std::string& path) override;
+  void Rename(const std::string& path, const std::string& new_path) override;
+  void Keep(const std::string& path, const std::string& second_path) override;
+  base::LockAttempt TryLock(const std::string& path) override { return disk_.TryLock(path); }
   std::vector<std::string> List(const std::string& folder, const std::string& ending) override {
     return disk_.List(folder, ending);
   }

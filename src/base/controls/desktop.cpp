@@ -59,6 +59,7 @@ void Desktop::BringToFront(Form& form) {
 
 void Desktop::Unload(Form& form) {
   if (!form.Loaded()) return;
+  std::erase(waiting_to_close_, &form);
   if (form.on.unload) form.on.unload();
   form.SetLoaded(false);
   form.SetVisible(false);
@@ -70,6 +71,28 @@ void Desktop::Unload(Form& form) {
   }
   View().Unloaded(form);
   if (on_closed) on_closed(form);
+}
+
+bool Desktop::IsHeld(const Form& form) const {
+  const bool takes_all = form.Role() == FormRole::kFrame && !held_.empty();
+  return takes_all || std::find(held_.begin(), held_.end(), &form) != held_.end();
+}
+
+void Desktop::Close(Form& form) {
+  if (IsHeld(form)) {
+    waiting_to_close_.push_back(&form);
+  } else {
+    Unload(form);
+  }
+}
+
+void Desktop::CloseWaiting() {
+  const auto now = std::find_if(waiting_to_close_.begin(), waiting_to_close_.end(),
+                                [this](const Form* form) { return !IsHeld(*form); });
+  if (now == waiting_to_close_.end()) return;
+  Form& form = **now;
+  std::erase(waiting_to_close_, &form);
+  Dispatch([&] { Unload(form); });
 }
 
 void Desktop::Bury(std::shared_ptr<void> window) {
@@ -115,6 +138,7 @@ void Desktop::Dispatch(const std::function<void()>& event) {
     throw;
   }
   if (--depth_ == 0) buried_.clear();
+  CloseWaiting();
 }
 
 void Desktop::Yield() { ports_.pump.Pump(); }

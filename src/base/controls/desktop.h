@@ -44,6 +44,9 @@ class Desktop {
   void BringToFront(Form& form);
   // Runs Form_Unload, takes the window off the desktop, then `on_closed`.
   void Unload(Form& form);
+  // The user's closing of a window. While one is held that would go with it, this waits until the
+  // event is over that holds it.
+  void Close(Form& form);
   // Loaded windows, front first.
   const std::vector<Form*>& OpenForms() const { return open_; }
   // The same in the order in which they were loaded.
@@ -74,6 +77,22 @@ class Desktop {
   // How many events are running inside each other.
   int Depth() const { return depth_; }
 
+  // While this lives no event closes the window: a procedure of it must come to its end, although
+  // it yields.
+  class Hold {
+   public:
+    Hold(Desktop& desktop, const Form& form) : desktop_(desktop) {
+      desktop_.held_.push_back(&form);
+    }
+    ~Hold() { desktop_.held_.pop_back(); }
+    Hold(const Hold&) = delete;
+    Hold& operator=(const Hold&) = delete;
+
+   private:
+    Desktop& desktop_;
+  };
+  bool IsHeld(const Form& form) const;
+
  private:
   Ports ports_;
   DesktopView* view_ = nullptr;
@@ -81,6 +100,10 @@ class Desktop {
   std::vector<Form*> open_;
   std::vector<Form*> load_order_;
   Control* focused_ = nullptr;
+  void CloseWaiting();
+
+  std::vector<const Form*> held_;
+  std::vector<Form*> waiting_to_close_;
   int depth_ = 0;
   int tabs_sent_ = 0;
   std::vector<std::shared_ptr<void>> buried_;

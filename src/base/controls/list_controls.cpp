@@ -20,6 +20,23 @@ int IndexOf(const std::vector<std::string>& items, std::string_view text) {
   return -1;
 }
 
+// The place of a key, counted from 0, or -1. Keys mostly grow with their rows and stand at or
+// before their own number, so the search begins there.
+int PlaceOf(const std::vector<int>& keys, int key) {
+  if (key <= 0) return -1;
+  for (auto place = std::min(static_cast<std::ptrdiff_t>(keys.size()), std::ptrdiff_t{key});
+       place-- > 0;) {
+    if (keys[static_cast<std::size_t>(place)] == key) return static_cast<int>(place);
+  }
+  const auto found = std::find(keys.begin(), keys.end(), key);
+  return found == keys.end() ? -1 : static_cast<int>(found - keys.begin());
+}
+
+int KeyAt(const std::vector<int>& keys, int place) {
+  const auto index = static_cast<std::size_t>(place);
+  return place < 0 || index >= keys.size() ? 0 : keys[index];
+}
+
 }  // namespace
 
 // --- ListBox
@@ -31,14 +48,16 @@ void ListBox::RowsChanged() {
 
 void ListBox::Clear() {
   rows_.clear();
+  keys_.clear();
   in_order_ = true;
   list_index_ = -1;
   RowsChanged();
 }
 
-void ListBox::AddItem(std::string row) {
+void ListBox::AddItem(std::string row, int key) {
   if (!sorted_) {
     rows_.push_back(std::move(row));
+    keys_.push_back(key);
   } else if (list_index_ < 0) {
     rows_.push_back(std::move(row));
     in_order_ = false;
@@ -54,9 +73,10 @@ void ListBox::AddItem(std::string row) {
   RowsChanged();
 }
 
-void ListBox::InsertItem(int index, std::string row) {
+void ListBox::InsertItem(int index, std::string row, int key) {
   if (index < 0 || index > ListCount()) throw Error(kInvalidCall);
   rows_.insert(rows_.begin() + index, std::move(row));
+  if (!sorted_) keys_.insert(keys_.begin() + index, key);
   if (list_index_ >= index) ++list_index_;
   RowsChanged();
 }
@@ -65,6 +85,7 @@ void ListBox::RemoveItem(int index) {
   if (index < 0 || index >= ListCount()) throw Error(kInvalidCall);
   Sort();
   rows_.erase(rows_.begin() + index);
+  if (!sorted_) keys_.erase(keys_.begin() + index);
   if (list_index_ == index) list_index_ = -1;
   if (list_index_ > index) --list_index_;
   RowsChanged();
@@ -86,6 +107,10 @@ const std::vector<std::string>& ListBox::Rows() const {
   Sort();
   return rows_;
 }
+
+int ListBox::Key(int index) const { return KeyAt(keys_, index); }
+
+int ListBox::RowWithKey(int key) const { return PlaceOf(keys_, key); }
 
 int ListBox::ListIndex() const { return list_index_; }
 
@@ -149,19 +174,22 @@ void ListView::RowsChanged() {
 
 void ListView::Clear() {
   rows_.clear();
+  keys_.clear();
   selected_ = 0;
   row_in_sight_ = 0;
   RowsChanged();
 }
 
-void ListView::AddRow(Cells cells) {
+void ListView::AddRow(Cells cells, int key) {
   rows_.push_back(std::move(cells));
+  keys_.push_back(key);
   RowsChanged();
 }
 
 void ListView::RemoveRow(int row) {
   if (row < 1 || row > RowCount()) throw Error(kSubscript);
   rows_.erase(rows_.begin() + (row - 1));
+  keys_.erase(keys_.begin() + (row - 1));
   if (selected_ > row || selected_ > RowCount()) --selected_;
   RowsChanged();
 }
@@ -176,6 +204,10 @@ const std::string& ListView::Cell(int row, int cell) const {
   if (cell < 0 || cell >= static_cast<int>(cells.size())) throw Error(kSubscript);
   return cells[static_cast<std::size_t>(cell)];
 }
+
+int ListView::Key(int row) const { return KeyAt(keys_, row - 1); }
+
+int ListView::RowWithKey(int key) const { return PlaceOf(keys_, key) + 1; }
 
 void ListView::SetCell(int row, int cell, std::string text) {
   if (Cell(row, cell) == text) return;

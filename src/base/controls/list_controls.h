@@ -23,14 +23,19 @@ class ListBox : public Control {
   bool Sorted() const { return sorted_; }
 
   void Clear();
-  void AddItem(std::string row);
+  // `key` says what a row of an unsorted list stands for, wherever it moves; see Key.
+  void AddItem(std::string row, int key = 0);
   // Before the row of this index, which may be the count. Error 5 outside that.
-  void InsertItem(int index, std::string row);
+  void InsertItem(int index, std::string row, int key = 0);
   void RemoveItem(int index);
   int ListCount() const { return static_cast<int>(rows_.size()); }
   // The text of a row; rows outside the list read as empty.
   const std::string& Row(int index) const;
   const std::vector<std::string>& Rows() const;
+  // The key of a row, 0 outside the list and in a sorted one.
+  int Key(int index) const;
+  // The row with this key, or -1.
+  int RowWithKey(int key) const;
   int ListIndex() const;
   // Selects a row without its event. Error 380 outside -1..count-1.
   void SetListIndex(int index);
@@ -49,6 +54,7 @@ class ListBox : public Control {
   void RowsChanged();
 
   mutable std::vector<std::string> rows_;
+  std::vector<int> keys_;  // of an unsorted list
   mutable bool in_order_ = true;
   bool sorted_ = false;
   int list_index_ = -1;
@@ -102,7 +108,8 @@ class ListView : public Control {
 
   void Clear();
   void Reserve(std::size_t rows) { rows_.reserve(rows); }
-  void AddRow(Cells cells);
+  // `key` says what the row stands for, wherever it moves.
+  void AddRow(Cells cells, int key = 0);
   // Error 9 when there is no such row. A selection behind it follows its row.
   void RemoveRow(int row);
   int RowCount() const { return static_cast<int>(rows_.size()); }
@@ -111,6 +118,10 @@ class ListView : public Control {
   const std::string& Cell(int row, int cell) const;
   void SetCell(int row, int cell, std::string text);
   const std::vector<Cells>& Rows() const { return rows_; }
+  // The key of a row, 0 when there is no such row.
+  int Key(int row) const;
+  // The row with this key, or 0.
+  int RowWithKey(int key) const;
 
   int SelectedIndex() const { return selected_; }
   // Selects a row without its event; 0 selects none. Error 9 when there is no such row.
@@ -130,6 +141,7 @@ class ListView : public Control {
 
   std::vector<std::string> headers_;
   std::vector<Cells> rows_;
+  std::vector<int> keys_;
   int selected_ = 0;
   int row_in_sight_ = 0;
   std::uint64_t rows_revision_ = 0;

@@ -218,7 +218,7 @@ void User::Fire(Timer& timer) {
 }
 
 void User::Close(Form& form) {
-  desktop_.Dispatch([&] { desktop_.Unload(form); });
+  desktop_.Dispatch([&] { desktop_.Close(form); });
 }
 
 void User::Switch(Form& form) {

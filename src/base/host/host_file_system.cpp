@@ -2,6 +2,7 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -21,6 +22,7 @@ namespace base {
 namespace {
 
 constexpr mode_t kNewFileMode = 0644;
+constexpr mode_t kNewFolderMode = 0755;
 constexpr int kMostLinks = 40;
 
 // Positions in the desk's files are 32 bits wide; no text of the desk is longer.
@@ -102,8 +104,10 @@ bool HasMode(const std::string& host_path, mode_t mode) {
   Throw(host_error == ENOENT ? kPathNotFound : ClassicNumber(host_error), host_error, host_path);
 }
 
+// Never waits for the other end of a pipe.
 int OpenHost(const std::string& host_path, int flags, mode_t mode = 0) {
-  return Retried([&] { return open(host_path.c_str(), flags | O_CLOEXEC, mode); });
+  return Retried(
+      [&] { return open(host_path.c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, mode); });
 }
 
 // Writes everything from an offset on; false leaves the reason in errno.
@@ -143,11 +147,38 @@ std::string ReadFrom(int descriptor, off_t offset, std::size_t count, const std:
   return bytes;
 }
 
-off_t LengthOf(int descriptor, const std::string& path) {
+void DemandRegular(mode_t mode, const std::string& path) {
+  if (S_ISDIR(mode)) Fail(EISDIR, path);
+  if (!S_ISREG(mode)) Fail(EOPNOTSUPP, path);
+}
+
+// Asked before a file is opened: opening a device may already do something.
+void DemandRegularIfThere(const std::string& path) {
+  struct stat status {};
+  if (Retried([&] { return stat(path.c_str(), &status); }) == 0) {
+    DemandRegular(status.st_mode, path);
+  } else if (errno != ENOENT) {
+    Fail(errno, path);
+  }
+}
+
+struct stat StatusOf(int descriptor, const std::string& path) {
   struct stat status {};
   if (Retried([&] { return fstat(descriptor, &status); }) != 0) Fail(errno, path);
-  if (S_ISDIR(status.st_mode)) Fail(EISDIR, path);
-  return status.st_size;
+  DemandRegular(status.st_mode, path);
+  return status;
+}
+
+off_t LengthOf(int descriptor, const std::string& path) {
+  return StatusOf(descriptor, path).st_size;
+}
+
+FileIdentity IdentityOf(const struct stat& status) {
+  constexpr std::int64_t kNanoseconds = 1'000'000'000;
+  return {.device = status.st_dev,
+          .number = status.st_ino,
+          .size = status.st_size,
+          .modified = status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec};
 }
 
 class HostFile : public File {
@@ -155,6 +186,8 @@ class HostFile : public File {
   HostFile(int descriptor, std::string path) : file_(descriptor), path_(std::move(path)) {}
 
   std::int64_t Length() override { return LengthOf(file_.Number(), path_); }
+
+  FileIdentity Identity() override { return IdentityOf(StatusOf(file_.Number(), path_)); }
 
   std::string ReadAt(std::int64_t offset, std::size_t count) override {
     return ReadFrom(file_.Number(), offset, count, path_);
@@ -199,8 +232,7 @@ std::optional<mode_t> ModeToReplace(const std::string& path) {
     if (errno == ENOENT) return std::nullopt;
     Fail(errno, path);
   }
-  if (S_ISDIR(status.st_mode)) Fail(EISDIR, path);
-  if (!S_ISREG(status.st_mode)) Fail(EOPNOTSUPP, path);
+  DemandRegular(status.st_mode, path);
   if (Retried([&] { return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS); }) != 0) {
     Fail(errno, path);
   }
@@ -214,6 +246,28 @@ int OpenAnew(const std::string& path, mode_t mode) {
   if (descriptor >= 0 || errno != EEXIST || !Unlink(path)) return descriptor;
   return OpenHost(path, kFlags, mode);
 }
+
+// Makes the folder that a file is to lie in; one that is there is welcome.
+void MakeFolderOf(const std::string& path) {
+  const std::string folder = FolderOf(path);
+  if (Retried([&] { return mkdir(folder.c_str(), kNewFolderMode); }) != 0 && errno != EEXIST) {
+    Fail(errno, folder);
+  }
+}
+
+// Why a disk gives no file a second name: it knows none, not from there, not this file, or no more.
+bool HasNoSecondNames(int host_error) {
+  return host_error == EXDEV || host_error == EPERM || host_error == EOPNOTSUPP ||
+         host_error == ENOSYS || host_error == EMLINK;
+}
+
+class HostLock : public FileLock {
+ public:
+  explicit HostLock(int descriptor) : file_(descriptor) {}
+
+ private:
+  Descriptor file_;  // closing it unlocks
+};
 
 void FlushFolderOf(const std::string& path) {
   const Descriptor descriptor(OpenHost(FolderOf(path), O_RDONLY | O_DIRECTORY));
@@ -230,20 +284,39 @@ bool HostFileSystem::FolderExists(const std::string& path) {
   return HasMode(ResolveHostPath(path), S_IFDIR);
 }
 
+bool HostFileSystem::IsTaken(const std::string& path) {
+  struct stat status {};
+  return lstat(ResolveHostPath(path).c_str(), &status) == 0;
+}
+
+std::optional<FileIdentity> HostFileSystem::Identify(const std::string& path) {
+  const std::string host_path = ResolveHostPath(path);
+  struct stat status {};
+  if (Retried([&] { return stat(host_path.c_str(), &status); }) == 0) {
+    if (!S_ISREG(status.st_mode)) return std::nullopt;
+    return IdentityOf(status);
+  }
+  if (errno == ENOENT || errno == ENOTDIR) return std::nullopt;
+  Fail(errno, host_path);
+}
+
 std::unique_ptr<File> HostFileSystem::Open(const std::string& path) {
   const std::string host_path = ResolveHostPath(path);
-  if (HasMode(host_path, S_IFDIR)) Fail(EISDIR, host_path);
+  DemandRegularIfThere(host_path);
   int descriptor = OpenHost(host_path, O_RDWR | O_CREAT, kNewFileMode);
   if (descriptor < 0) {
     const int host_error = errno;
     if (ClassicNumber(host_error) == kPermission) descriptor = OpenHost(host_path, O_RDONLY);
     if (descriptor < 0) FailToCreate(host_error, host_path);
   }
-  return std::make_unique<HostFile>(descriptor, host_path);
+  auto file = std::make_unique<HostFile>(descriptor, host_path);
+  file->Length();  // refuses what has come there meanwhile
+  return file;
 }
 
 std::string HostFileSystem::ReadAll(const std::string& path) {
   const std::string host_path = ResolveHostPath(path);
+  DemandRegularIfThere(host_path);
   const Descriptor file(OpenHost(host_path, O_RDONLY));
   if (!file.IsOpen()) Fail(errno, host_path);
   const off_t length = LengthOf(file.Number(), host_path);
@@ -275,6 +348,39 @@ void HostFileSystem::Replace(const std::string& path, std::string_view bytes) {
 void HostFileSystem::Remove(const std::string& path) {
   const std::string host_path = ResolveHostPath(path);
   if (!Unlink(host_path)) Fail(errno, host_path);
+}
+
+void HostFileSystem::Rename(const std::string& path, const std::string& new_path) {
+  const std::string host_path = ResolveHostPath(path);
+  const std::string new_host_path = ResolveHostPath(new_path);
+  if (IsTaken(new_path)) Fail(EEXIST, new_host_path);
+  if (Retried([&] { return rename(host_path.c_str(), new_host_path.c_str()); }) != 0) {
+    Fail(errno, host_path);
+  }
+}
+
+void HostFileSystem::Keep(const std::string& path, const std::string& second_path) {
+  const std::string target = LinkTarget(ResolveHostPath(path));
+  const std::string second = ResolveHostPath(second_path);
+  MakeFolderOf(second);
+  if (Retried([&] { return link(target.c_str(), second.c_str()); }) == 0) {
+    return FlushFolderOf(second);
+  }
+  if (!HasNoSecondNames(errno)) Fail(errno, target);
+  Replace(second_path, ReadAll(path));
+}
+
+LockAttempt HostFileSystem::TryLock(const std::string& path) {
+  const std::string host_path = ResolveHostPath(path);
+  int descriptor = OpenHost(host_path, O_RDWR | O_CREAT | O_NOFOLLOW, kNewFileMode);
+  if (descriptor < 0) descriptor = OpenHost(host_path, O_RDONLY | O_NOFOLLOW);
+  if (descriptor < 0) return {};
+  auto lock = std::make_unique<HostLock>(descriptor);
+  struct stat status {};
+  if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) return {};
+  // A lock of the open file, not of the process: two desks of one process keep each other out too.
+  if (Retried([&] { return flock(descriptor, LOCK_EX | LOCK_NB); }) == 0) return {std::move(lock)};
+  return {nullptr, errno == EWOULDBLOCK};
 }
 
 std::vector<std::string> HostFileSystem::List(const std::string& folder,

@@ -1,0 +1,50 @@
+#include "store/draw_on_show.h"
+
+namespace store {
+namespace {
+
+constexpr const char* kEdit = "Edit";
+constexpr const char* kNotComplete =
+    "Not every draw of this database could be read, so none can be changed";
+
+// A draw that the table has not lost.
+bool IsInTable(const Session& session, const MainWindow& window) {
+  return session.database.IsComplete() && window.ListView1.RowWithKey(session.shown_place) > 0;
+}
+
+}  // namespace
+
+bool IsEditing(const MainWindow& window) { return window.cmdedit.Caption() != kEdit; }
+
+void StopEditing(MainWindow& window) {
+  window.cmdedit.SetCaption(kEdit);
+  window.tbar3.SetEnabled(false);
+}
+
+void SetDrawOnShow(Session& session, MainWindow& window, int place) {
+  session.shown_place = place;
+  if (IsEditing(window)) StopEditing(window);
+  EnableChanges(session, window);
+}
+
+void EnableChanges(Session& session, MainWindow& window) {
+  const bool complete = session.database.IsComplete();
+  const bool in_table = IsInTable(session, window);
+  window.cmdedit.SetEnabled(in_table && !session.database.IsBlank(session.shown_place));
+  window.Command18.SetEnabled(in_table && !IsEditing(window));
+  if (!complete) window.cmdAdd.SetEnabled(false);
+  for (base::Button* button : {&window.cmdAdd, &window.cmdedit, &window.Command18}) {
+    button->SetToolTipText(complete ? "" : kNotComplete);
+  }
+}
+
+std::string BytesOnShow(Session& session) {
+  OpenDatabase& database = session.database;
+  const int place = session.shown_place;
+  if (place < 1 || place > database.UpperBound() || database.IsBlank(place)) return {};
+  DrawRecord draw;
+  database.Read(database.PositionOf(place), draw);
+  return EncodeRecord(draw);
+}
+
+}  // namespace store

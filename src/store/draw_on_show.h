@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+#include "store/main_window.h"
+#include "store/session.h"
+
+// The draw that stands in the boxes, known by its place among the draws of the file. Edit and
+// Remove mean this draw, however it came there.
+
+namespace store {
+
+// Another draw, or the same one anew, comes into the boxes; 0 for none. An edit that was going on
+// is given up.
+void SetDrawOnShow(Session& session, MainWindow& window, int place);
+
+// Enables what may change draws, and says in a tip why where it may not: Edit with a draw on show
+// that is in the table, Remove the same unless an edit goes on (also of the blank row that an empty
+// database has), Add in a database that is known
+// whole.
+void EnableChanges(Session& session, MainWindow& window);
+
+bool IsEditing(const MainWindow& window);
+void StopEditing(MainWindow& window);
+
+// The record of the draw on show as it lies in the file; empty when there is none.
+std::string BytesOnShow(Session& session);
+
+}  // namespace store
