@@ -208,6 +208,12 @@ std::string Desk::Undo() {
 
 std::vector<std::string> Desk::Earlier() { return parts_->session.database.Earlier(); }
 
+bool Desk::TryForLock() {
+  using Access = store::OpenDatabase::Access;
+  store::OpenDatabase& database = parts_->session.database;
+  return database.Lock() == Access::kInUse && database.TryLock() == Access::kMine;
+}
+
 std::vector<Notice> Desk::Notices() {
   if (!parts_->main.Peek()) return {};
   return NoticesOf(parts_->session.database);

@@ -52,6 +52,8 @@ class Desk {
   std::string Undo();
   // The names of the earlier states kept of the open database, the newest first.
   std::vector<std::string> Earlier();
+  // Tries for a database that another desk holds; true when it is this desk's from now on.
+  bool TryForLock();
   // What the status bar has to tell of the open database.
   std::vector<Notice> Notices();
 

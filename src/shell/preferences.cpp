@@ -10,6 +10,12 @@ namespace shell {
 
 using store::kDeskApplication;
 
+namespace {
+
+constexpr std::string_view kRegionKey = "Region";
+
+}  // namespace
+
 double ReadNumber(base::Settings& settings, std::string_view application, std::string_view section,
                   std::string_view key, double default_value) {
   const auto text = settings.Find(application, section, key);
@@ -45,10 +51,17 @@ std::string VersionText(const Version& version) {
 void ReadRegion(base::Settings& settings, store::Session& session) {
   session.date_format_text = kMonthFirstPattern;  // what a broken setting falls back to
   for (const std::string_view pattern : {kDayFirstPattern, kMonthFirstPattern}) {
-    if (settings.Get(kDeskApplication, session.version_section, "Region", pattern) == pattern) {
+    if (settings.Get(kDeskApplication, session.version_section, kRegionKey, pattern) == pattern) {
       session.date_format_text = pattern;
     }
   }
+}
+
+void StoreRegion(base::Settings& settings, base::DateOrder order) {
+  const std::string section = VersionSection(Version{});
+  if (settings.Find(kDeskApplication, section, kRegionKey)) return;
+  settings.Save(kDeskApplication, section, kRegionKey,
+                order == base::DateOrder::kDayFirst ? kDayFirstPattern : kMonthFirstPattern);
 }
 
 void ReadPreferences(base::Settings& settings, store::Session& session) {

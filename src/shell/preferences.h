@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/language/dates.h"
 #include "base/ports/settings.h"
 #include "shell/version.h"
 #include "store/session.h"
@@ -27,6 +28,9 @@ std::string VersionText(const Version& version);
 // Reads the stored date pattern into the session. Two comparisons with a default each: with nothing
 // stored both hold, and month first, the second, wins.
 void ReadRegion(base::Settings& settings, store::Session& session);
+// Stores the date pattern of a machine's date order where none is stored yet. Throws where the
+// store cannot be kept.
+void StoreRegion(base::Settings& settings, base::DateOrder order);
 // Reads what the start needs: date pattern, tips, and the question on changed draw rules.
 void ReadPreferences(base::Settings& settings, store::Session& session);
 

@@ -7,6 +7,7 @@
 #include <exception>
 
 #include "base/host/host_paths.h"
+#include "shell/preferences.h"
 #include "shell/program_folder.h"
 #include "ui/bind/binder.h"
 #include "ui/theme/theme.h"
@@ -23,6 +24,7 @@ namespace ui {
 namespace {
 
 constexpr const char* kFolder = "number-desk";
+constexpr int kLockPause = 1000;  // milliseconds
 
 // Beside an installed program, otherwise where the installation was meant to be.
 QString DeliveredFolder() {
@@ -45,6 +47,10 @@ std::string SettingsFile() {
   return folder.filePath(QStringLiteral("settings.txt")).toStdString();
 }
 
+constexpr const char* kUnheard =
+    "A desk is open on these databases already, and does not answer. Close it first, or wait until "
+    "it is done.";
+
 void TellFailure(const std::string& words) {
   MessageDialog({.text = base::ToDeskPath(words), .icon = base::BoxIcon::kCritical}, nullptr).Ask();
 }
@@ -57,6 +63,8 @@ App::App(const std::string& program_folder, const std::string& settings_file)
       desk_(platform_.All(), base::ToDeskPath(program_folder)) {
   Theme::Current().Attach(&settings_);
   desk_.Desktop().SetView(this);
+  lock_clock_.setInterval(kLockPause);
+  connect(&lock_clock_, &QTimer::timeout, this, &App::TryForLock);
 }
 
 App::~App() {
@@ -68,8 +76,33 @@ App::~App() {
 }
 
 void App::Start() {
+  StoreRegion();
+  lock_clock_.start();
   desk_.Start();
   if (desk_.Ended()) QCoreApplication::quit();
+}
+
+// As an installer would: the first start on a machine takes over the order of its dates.
+void App::StoreRegion() {
+  try {
+    shell::StoreRegion(settings_, platform_.All().region.Dates());
+  } catch (const base::Error&) {
+    // Settings that cannot be kept are told where they matter.
+  }
+}
+
+// A script may hold the database. Once it is done, this desk stores again.
+void App::TryForLock() {
+  if (desk_.TryForLock() && frame_) frame_->RefreshStatus();
+}
+
+void App::ComeToFront() {
+  QWidget* const window = frame_ ? frame_ : QApplication::activeWindow();
+  if (!window) return;
+  window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+  window->show();
+  window->raise();
+  window->activateWindow();
 }
 
 FrameView* App::Frame() {
@@ -126,6 +159,8 @@ void App::Shown(base::Form& form) {
 }
 
 void App::Raised(base::Form& form) {
+  // The main window's activation, when it comes back, forgets what waits in its table.
+  if (&form != desk_.Main()) desk_.StorePending();
   QWidget* const view = ViewOf(form);
   if (!view) return;
   if (form.Role() == base::FormRole::kChild) {
@@ -180,7 +215,19 @@ int RunProgram(int argc, char** argv) {
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/program.svg")));
   Theme::Current();
   try {
-    App app(ProgramFolder(), SettingsFile());
+    const std::string folder = ProgramFolder();
+    SingleDesk single(QString::fromStdString(folder));
+    switch (single.Take()) {
+      case SingleDesk::Place::kSecond:
+        return 0;
+      case SingleDesk::Place::kUnheard:
+        TellFailure(kUnheard);
+        return 1;
+      case SingleDesk::Place::kFirst:
+        break;
+    }
+    App app(folder, SettingsFile());
+    QObject::connect(&single, &SingleDesk::Called, &app, &App::ComeToFront);
     QTimer::singleShot(0, &app, &App::Start);
     return QApplication::exec();
   } catch (const std::exception& failure) {

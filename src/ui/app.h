@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 #include <map>
 #include <memory>
 #include <string>
@@ -10,6 +11,7 @@
 #include "shell/desk.h"
 #include "shell/settings_store.h"
 #include "ui/platform/platform.h"
+#include "ui/platform/single_desk.h"
 
 class QWidget;
 
@@ -30,6 +32,8 @@ class App : public QObject, public base::DesktopView {
   // Starts the desk. It ends the application's event loop when its last window is gone.
   void Start();
   shell::Desk& Desk() { return desk_; }
+  // The window that stands in front of all others of the desk comes to the front of the screen.
+  void ComeToFront();
   // The view of an open window; null when it has none.
   QWidget* ViewOf(base::Form& form) const;
 
@@ -40,6 +44,8 @@ class App : public QObject, public base::DesktopView {
   void PopUp(base::MenuItem& menu) override;
 
  private:
+  void StoreRegion();
+  void TryForLock();
   QWidget* MakeView(base::Form& form);
   FrameView* Frame();
 
@@ -49,6 +55,7 @@ class App : public QObject, public base::DesktopView {
   shell::Desk desk_;
   std::map<base::Form*, QPointer<QWidget>> views_;
   QPointer<FrameView> frame_;
+  QTimer lock_clock_;
 };
 
 // Runs the program; the exit code.

@@ -139,6 +139,10 @@ void FrameView::PopUp(base::MenuItem& menu) {
   popup.exec(QCursor::pos());
 }
 
+void FrameView::RefreshStatus() {
+  if (!released_) status_->Refresh();
+}
+
 void FrameView::Release() {
   released_ = true;
   binder_.Detach();

@@ -27,6 +27,7 @@ class FrameView : public QMainWindow {
   // At the place that the desk has for it, or in the middle of the screen.
   void ShowInPlace();
   void PopUp(base::MenuItem& menu);
+  void RefreshStatus();
   // The desk is closing the frame; no further question to it.
   void Release();
 

@@ -9,8 +9,8 @@ class QLabel;
 
 namespace ui {
 
-// The line at the foot of the frame: the open database, how many draws it holds, their dates, and
-// the day that scans are limited to.
+// The line at the foot of the frame: the open database, how many draws it holds, their dates, what
+// there is to tell of it with links to what can be done, and the day that scans are limited to.
 class StatusLine : public QStatusBar {
   Q_OBJECT
 
@@ -22,11 +22,14 @@ class StatusLine : public QStatusBar {
  private:
   QLabel* AddText(const char* name, const char* meaning);
   QString Dates() const;
+  void ShowNotices(bool open);
+  void Follow(const QString& link);
 
   shell::Desk& desk_;
   QLabel* database_;
   QLabel* draws_;
   QLabel* dates_;
+  QLabel* notices_;
   QLabel* day_;
 };
 
