@@ -34,6 +34,57 @@ void OpenDatabase(benchmark::State& state) {
 }
 BENCHMARK(OpenDatabase)->Unit(benchmark::kMillisecond);
 
+// An edit of one draw in the middle: every line, the file on the disk, and the draw on show.
+void EditOneDraw(benchmark::State& state) {
+  test::TestDesk desk(test::SampleDraws(kDraws - 1));
+  desk.settings.Save("velmonte", "390", "Tips", "False");
+  desk.Start();
+  int ball = 1;
+  for (auto _ : state) {
+    desk.User().Pick(desk.Main().List7, kDraws / 2);
+    desk.User().Click(desk.Main().cmdedit);
+    desk.Main().TxtBall06.SetText(std::to_string(10 + ball++ % 80));
+    desk.User().Click(desk.Main().cmdedit);
+  }
+  if (!desk.boxes.shown.empty()) state.SkipWithError("an edit was refused");
+}
+BENCHMARK(EditOneDraw)->Unit(benchmark::kMillisecond)->Iterations(30);
+
+// One new draw, typed and saved.
+void SaveOneDraw(benchmark::State& state) {
+  test::TestDesk desk(test::SampleDraws(kDraws - 100));
+  desk.settings.Save("velmonte", "390", "Tips", "False");
+  desk.Start();
+  for (auto _ : state) {
+    state.PauseTiming();
+    desk.User().Click(desk.Main().cmdAdd);
+    for (int k = 0; k < 7; ++k) desk.Main().BallBox(k).SetText(std::to_string(11 + k));
+    desk.Main().TxtBall07.SetText("Sa");
+    desk.Main().txtDate.SetText("05/12/05");
+    state.ResumeTiming();
+    desk.User().Click(desk.Main().cmdSave);
+  }
+  if (!desk.boxes.shown.empty()) state.SkipWithError("a save was refused");
+}
+BENCHMARK(SaveOneDraw)->Unit(benchmark::kMillisecond)->Iterations(30);
+
+// The close behind a removal, which writes the table to the file.
+void CloseAfterARemoval(benchmark::State& state) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    test::TestDesk desk(Draws());
+    desk.Start();
+    desk.User().Pick(desk.Main().ListView1, kDraws / 2);
+    desk.User().Click(desk.Main().Command18);
+    state.ResumeTiming();
+    desk.User().Close(desk.Main());
+    state.PauseTiming();
+    if (desk.DatabaseBytes().size() != (kDraws - 1) * 44u) state.SkipWithError("not written");
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(CloseAfterARemoval)->Unit(benchmark::kMillisecond)->Iterations(10);
+
 // A full scan through the window's own procedure, yields included.
 void FullScan(benchmark::State& state) {
   for (auto _ : state) {

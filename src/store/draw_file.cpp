@@ -61,12 +61,10 @@ std::int32_t DrawFile::Read(std::int32_t position, DrawRecord& record) {
   if (position < 1) throw base::Error(base::kInvalidCall);
   const auto offset = static_cast<std::size_t>(position - 1);
   FillTo(offset + kLongestRecord);
-  DrawRecord read;
-  const RecordEnd end = DecodeRecord(bytes_, offset, read);
+  const RecordEnd end = DecodeRecord(bytes_, offset, record);
   const bool cut_by_failure = failure_ && (!end.missing.empty() || offset >= bytes_.size());
   if (cut_by_failure) throw base::Error(*failure_);
   if (end.offset >= std::numeric_limits<std::int32_t>::max()) throw base::Error(base::kOverflow);
-  record = std::move(read);
   return static_cast<std::int32_t>(end.offset + 1);
 }
 

@@ -265,12 +265,13 @@ bool Entry::SaveNewRecord() {
     draw.day = session.day_text;
     draw.date = place_.window.txtDate.Text();
     if (!guard_.MayWrite()) return;
-    const std::string before = session.database.Bytes();
+    const std::size_t old_size = session.database.Bytes().size();
     AppendCurrentDraw(session);
-    session.database.log.Add({.told = "Draw of " + draw.date + " saved",
-                              .bytes = ChangeOf(before, session.database.Bytes()),
-                              .pending_before = session.database.pending,
-                              .place = session.UpperBound()});
+    session.database.log.Add(
+        {.told = "Draw of " + draw.date + " saved",
+         .bytes = {.offset = old_size, .new_bytes = session.database.Bytes().substr(old_size)},
+         .pending_before = session.database.pending,
+         .place = session.UpperBound()});
     place_.window.cmdClear.SetEnabled(true);
     saved = true;
   });
