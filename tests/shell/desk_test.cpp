@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "shell/settings_store.h"
+#include "support/failing_disk.h"
 #include "support/test_desk.h"
 
 namespace test {
@@ -48,6 +50,31 @@ TEST(Start, TheTickOnTheSplashWindowIsStored) {
   desk.User().Click(splash->ChkNoSplash);
   desk.User().Click(splash->CmdContinue);
   EXPECT_EQ(desk.settings.Get("Velmonte", "390", "SplashScreen"), "1");
+}
+
+// Settings that cannot be read are told once, and nothing is written over them.
+TEST(Start, TellsUnreadableSettingsOnce) {
+  TestDesk desk;
+  const std::string bytes = "Velmonte|390|SplashScreen=1\n";
+  const std::string path = desk.folder.string() + "/settings.txt";
+  desk.host_files.Replace(path, bytes);
+  FailingDisk disk(desk.host_files);
+  disk.FailFromNow(1, base::Error(base::kPathAccess, "The disk is broken"));
+  shell::SettingsStore settings(disk, path);
+  ASSERT_TRUE(disk.HasFailed());
+  base::QuietPorts quiet;
+  shell::Desk broken(
+      {desk.boxes, desk.pump, desk.clock, desk.beeper, desk.shell_open, desk.mail, desk.printer,
+       desk.help, quiet.system_information, desk.region, desk.host_files, settings},
+      desk.folder.string());
+  broken.Start();
+  EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>{"The settings could not be read, and are "
+                                                          "left as they are: The disk is broken"});
+  broken.User().Click(static_cast<shell::FrmSplash*>(broken.Find("frmSplash"))->CmdContinue);
+  broken.Stop();
+  EXPECT_TRUE(broken.Ended());
+  EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>());
+  EXPECT_EQ(desk.ReadFile("settings.txt"), bytes);
 }
 
 TEST(Start, DefaultsOfAFirstRun) {

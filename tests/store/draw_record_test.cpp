@@ -115,5 +115,25 @@ TEST(DrawLine, GivesEmptyFieldsBehindItsEnd) {
   EXPECT_EQ(parsed.day, "");
 }
 
+// What a record that was cut short lacks, byte by byte: zeros for a length, blanks for a text.
+TEST(DecodeRecord, KnowsWhatItLacksToBeWhole) {
+  const std::string whole = EncodeRecord(Sample());
+  DrawRecord draw;
+  EXPECT_EQ(DecodeRecord(whole, 0, draw).missing, "");
+  EXPECT_EQ(draw, Sample());
+  EXPECT_EQ(DecodeRecord(whole, 0, draw).offset, 44u);
+  EXPECT_EQ(DecodeRecord(whole, 44, draw).missing, "");
+  EXPECT_EQ(draw, DrawRecord{});
+  for (std::size_t size = 1; size < whole.size(); ++size) {
+    const std::string part = whole.substr(0, size);
+    const RecordEnd end = DecodeRecord(part, 0, draw);
+    EXPECT_EQ(end.offset, size);
+    const RecordEnd mended = DecodeRecord(part + end.missing, 0, draw);
+    EXPECT_EQ(mended.missing, "") << size;
+    EXPECT_EQ(mended.offset, size + end.missing.size()) << size;
+  }
+  EXPECT_EQ(DecodeRecord(whole.substr(0, 5), 0, draw).missing, " " + std::string(16, '\0'));
+}
+
 }  // namespace
 }  // namespace store

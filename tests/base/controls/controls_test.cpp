@@ -135,6 +135,47 @@ TEST(ListBox, RemovingTheSelectedRowSelectsNone) {
   EXPECT_EQ(window.plain.ListIndex(), -1);
 }
 
+TEST(ListBox, AKeyStaysWithItsRow) {
+  Window window;
+  for (const int key : {1, 2, 3, 7}) window.plain.AddItem("row", key);
+  window.plain.RemoveItem(1);
+  EXPECT_EQ(window.plain.Key(1), 3);
+  EXPECT_EQ(window.plain.RowWithKey(2), -1);
+  EXPECT_EQ(window.plain.RowWithKey(7), 2);
+  window.plain.InsertItem(1, "row", 2);
+  EXPECT_EQ(window.plain.RowWithKey(2), 1);
+  EXPECT_EQ(window.plain.RowWithKey(7), 3);
+  window.plain.AddItem("without a key");
+  EXPECT_EQ(window.plain.Key(4), 0);
+  EXPECT_EQ(window.plain.Key(-1), 0);
+  EXPECT_EQ(window.plain.Key(5), 0);
+  EXPECT_EQ(window.plain.RowWithKey(0), -1);
+  window.plain.Clear();
+  EXPECT_EQ(window.plain.RowWithKey(1), -1);
+}
+
+TEST(ListView, AKeyStaysWithItsRow) {
+  Window window;
+  for (const int key : {1, 2, 3, 7}) window.table.AddRow({"row"}, key);
+  window.table.RemoveRow(2);
+  EXPECT_EQ(window.table.Key(2), 3);
+  EXPECT_EQ(window.table.RowWithKey(2), 0);
+  EXPECT_EQ(window.table.RowWithKey(7), 3);
+  EXPECT_EQ(window.table.Key(0), 0);
+  EXPECT_EQ(window.table.Key(4), 0);
+  EXPECT_EQ(window.table.RowWithKey(0), 0);
+  window.table.Clear();
+  EXPECT_EQ(window.table.RowWithKey(1), 0);
+}
+
+// Keys mostly stand at or before their own number, but nothing says that they must.
+TEST(ListView, AKeyIsFoundBehindItsOwnNumber) {
+  Window window;
+  for (const int key : {9, 8, 1}) window.table.AddRow({"row"}, key);
+  EXPECT_EQ(window.table.RowWithKey(1), 3);
+  EXPECT_EQ(window.table.RowWithKey(9), 1);
+}
+
 TEST(ComboBox, ItsTextIsTheItemChosen) {
   Window window;
   window.combo.SetItems({"All Days", "Monday"});
