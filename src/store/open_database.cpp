@@ -178,6 +178,7 @@ OpenDatabase::Rewritten OpenDatabase::Rewrite(const std::string& bytes, const ba
 void OpenDatabase::WriteAgain() {
   files_.Replace(path_, file_.Bytes());
   file_.Adopt(std::string(file_.Bytes()));
+  file_.Reopen(path_);
 }
 
 std::vector<std::string> OpenDatabase::Earlier() const { return EarlierStates(files_, path_); }
