@@ -4,8 +4,6 @@ namespace store {
 namespace {
 
 constexpr const char* kEdit = "Edit";
-constexpr const char* kNotComplete =
-    "Not every draw of this database could be read, so none can be changed";
 
 // A draw that the table has not lost.
 bool IsInTable(const Session& session, const MainWindow& window) {

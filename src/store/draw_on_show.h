@@ -10,6 +10,10 @@
 
 namespace store {
 
+// Why nothing can be changed where a load met an error.
+inline constexpr const char* kNotComplete =
+    "Not every draw of this database could be read, so none can be changed";
+
 // Another draw, or the same one anew, comes into the boxes; 0 for none. An edit that was going on
 // is given up.
 void SetDrawOnShow(Session& session, MainWindow& window, int place);

@@ -53,7 +53,11 @@ bool Guard::AskToLoadAgain() {
 }
 
 bool Guard::MayWrite() {
-  if (!place_.session.database.IsComplete() || !IsMine()) return false;
+  if (!place_.session.database.IsComplete()) {
+    place_.Ask({.text = kNotComplete, .icon = base::BoxIcon::kExclamation});
+    return false;
+  }
+  if (!IsMine()) return false;
   switch (place_.session.database.Compare()) {
     case OpenDatabase::Standing::kAsRead:
       return true;
@@ -84,13 +88,18 @@ void Guard::LoadAgain() {
   OpenDatabase& database = session.database;
   const std::string shown = BytesOnShow(session);
   const int old_place = session.shown_place;
-  database.Open(std::string(database.Path()));
   const DrawRecord current = session.current_draw;
   int place = 0;
-  WalkFile(session, [&] {
-    if (shown.empty() || EncodeRecord(session.current_draw) != shown) return;
-    if (place == 0 || session.current_place == old_place) place = session.current_place;
-  });
+  try {
+    database.Open(std::string(database.Path()));
+    WalkFile(session, [&] {
+      if (shown.empty() || EncodeRecord(session.current_draw) != shown) return;
+      if (place == 0 || session.current_place == old_place) place = session.current_place;
+    });
+  } catch (const base::Error&) {
+    SetDrawOnShow(session, place_.window, 0);
+    throw;
+  }
   session.current_draw = current;
   session.current_place = 0;
   FillLists(session, place_.window);

@@ -9,7 +9,9 @@
 #include <string>
 #include <vector>
 
+#include "base/language/error.h"
 #include "support/desk_acts.h"
+#include "support/failing_disk.h"
 #include "support/test_desk.h"
 
 // Another program changed the file of the open database. Whatever it did, and however the desk then
@@ -30,6 +32,8 @@ const char* const kChanged =
 const char* const kGone =
     "UK-National-Lottery is no longer in its folder. Write the draws that the desk holds there "
     "again?";
+const char* const kNotComplete =
+    "Not every draw of this database could be read, so none can be changed";
 const char* const kOwn = "UK-National-Lottery own 2005-12-05 14-30-00.dat";
 const char* const kOwnTold =
     "The draws that the desk held are kept as UK-National-Lottery own 2005-12-05 14-30-00.dat";
@@ -377,6 +381,43 @@ TEST_F(LoadedAgain, ASecondSaveAddsTheDrawOnce) {
   draws.push_back(Added());
   EXPECT_EQ(desk_.DatabaseBytes(), Encode(draws));
   EXPECT_EQ(desk_.Main().ListView1.RowCount(), kDraws);
+}
+
+// What was read of it before the disk failed is not all of it: nothing may be changed then.
+TEST(LoadedAgainInPart, ADatabaseIsLeftAlone) {
+  for (int failing = 1;; ++failing) {
+    SCOPED_TRACE("operation " + std::to_string(failing));
+    TestDesk desk;
+    FailingDisk disk(desk.host_files);
+    desk.files = &disk;
+    StartQuietly(desk);
+    TypeDraw(desk, Added());
+    const std::string foreign = Encode(SampleDraws(39));
+    ReplaceByRename(desk, foreign);
+    desk.boxes.answers = {base::Answer::kYes};
+    desk.boxes.on_ask = [&] {
+      if (desk.boxes.shown.back().text == kChanged) {
+        disk.FailFromNow(failing, base::Error(base::kPathAccess));
+      }
+    };
+    desk.User().Click(desk.Main().cmdSave);
+    const std::size_t boxes = desk.TakeBoxTexts().size();
+    EXPECT_EQ(boxes, disk.HasFailed() ? 2u : 1u);
+    EXPECT_EQ(desk.Main().TxtBall01.Text(), "01");
+    if (!disk.HasFailed()) {
+      EXPECT_GT(failing, 2) << "no operation was reached";
+      return;
+    }
+    for (base::Button* button :
+         {&desk.Main().cmdAdd, &desk.Main().cmdedit, &desk.Main().Command18}) {
+      EXPECT_FALSE(button->Enabled()) << button->Name();
+      EXPECT_EQ(button->ToolTipText(), kNotComplete);
+    }
+    desk.User().Click(desk.Main().cmdSave);
+    EXPECT_EQ(desk.TakeBoxTexts(), Texts{kNotComplete});
+    desk.Desk().Stop();
+    EXPECT_EQ(desk.DatabaseBytes(), foreign);
+  }
 }
 
 // --- After the person left it alone
