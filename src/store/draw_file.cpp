@@ -35,6 +35,7 @@ std::int32_t DrawFile::Length() const {
 }
 
 void DrawFile::Forget() {
+  if (is_open_ && !file_) return;  // what was written stands for the file that is not open yet
   bytes_.clear();
   at_end_ = false;
   failure_.reset();

@@ -29,7 +29,7 @@ class DrawFile {
   std::int32_t Length() const;
 
   // Forgets what was read. The file that was opened is read anew, also where its path has come to
-  // name another one.
+  // name another one. What Adopt was given stays while its file is not open.
   void Forget();
   // Fills the record from a position and returns the position after it; see DecodeRecord. An error
   // of the disk comes where bytes of the record could not be read, and again until Forget.

@@ -170,6 +170,11 @@ OpenDatabase::Rewritten OpenDatabase::Rewrite(const std::string& bytes, const ba
     // The state is there, if unread.
   }
   file_.Adopt(bytes);
+  try {
+    file_.Reopen(path_);
+  } catch (const base::Error&) {
+    // It is opened when it is next needed.
+  }
   IndexBytes();
   PruneEarlierStates(files_, path_, {now.year, now.month, now.day});
   return result;

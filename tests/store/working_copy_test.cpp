@@ -191,6 +191,23 @@ TEST(WorkingCopy, TakesARowThatTheBoxesCannotShowAsItStands) {
   EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
 }
 
+// An activation reads a small database anew, which after an edit could not be read: nothing could
+// be changed any more.
+TEST(WorkingCopy, ASmallDatabaseCanBeActivatedAfterARewrite) {
+  TestDesk desk(SampleDraws(10));
+  StartQuietly(desk);
+  EditDraw(desk, 1, "49");
+  desk.User().Switch(desk.Main());
+  EXPECT_TRUE(desk.boxes.shown.empty());
+  EXPECT_EQ(desk.Main().ListView1.RowCount(), 10);
+  EXPECT_TRUE(desk.Main().cmdedit.Enabled());
+  EditDraw(desk, 2, "49");
+  auto expected = SampleDraws(10);
+  expected[1].b[5] = "49";
+  expected[2].b[5] = "49";
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+}
+
 TEST(WorkingCopy, RewritesMoreThanHalfOfWhatTheCounterHolds) {
   TestDesk desk(SampleDraws(17000));
   desk.Start();
