@@ -78,10 +78,13 @@ bool WorkingCopy::Write(const Edit& edit) {
   bool stored = false;
   Trapped(place_.reporter, "DoDataBase", [&] {
     const std::string before = database.Bytes();
-    stored = edit.bytes == before;
-    if (stored || !guard_.MayWrite()) return;
-    guard_.Rewrite(edit.bytes);
+    if (edit.bytes != before) {
+      if (!guard_.MayWrite()) return;
+      guard_.Rewrite(edit.bytes);
+    }
     stored = true;
+    // A correction that waited in the table has given way to the edit, whatever that wrote.
+    if (edit.bytes == before && !database.pending.contains(edit.place)) return;
     database.log.Add({.told = "Draw of " + edit.date + " changed",
                       .bytes = ChangeOf(before, edit.bytes),
                       .pending_before = database.pending,

@@ -58,7 +58,8 @@ TEST(WorkingCopy, TempPathIsKnownWhileAnEditRuns) {
   EXPECT_EQ(path, desk.folder.string() + "\\Temp.dat");
 }
 
-// Whose draws a Temp.dat holds nobody knows: they went into the next database that was edited.
+// Whose draws a Temp.dat holds nobody knows: they went into the next database
+// that was edited.
 TEST(WorkingCopy, ATempDatThatIsFoundIsSetAside) {
   TestDesk desk;
   StartQuietly(desk);
@@ -137,7 +138,8 @@ TEST(WorkingCopy, StoresTheDayInTwoLetters) {
   EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(40)));
 }
 
-// Whatever operation of the disk fails, the database on disk is the old one or the new one, whole.
+// Whatever operation of the disk fails, the database on disk is the old one or
+// the new one, whole.
 void ExpectNoDrawLost(const std::function<void(TestDesk&)>& rewrite, const std::string& old_bytes,
                       const std::string& new_bytes) {
   for (int failing = 1;; ++failing) {
@@ -191,8 +193,8 @@ TEST(WorkingCopy, TakesARowThatTheBoxesCannotShowAsItStands) {
   EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
 }
 
-// An activation reads a small database anew, which after an edit could not be read: nothing could
-// be changed any more.
+// An activation reads a small database anew, which after an edit could not be
+// read: nothing could be changed any more.
 TEST(WorkingCopy, ASmallDatabaseCanBeActivatedAfterARewrite) {
   TestDesk desk(SampleDraws(10));
   StartQuietly(desk);
@@ -206,6 +208,27 @@ TEST(WorkingCopy, ASmallDatabaseCanBeActivatedAfterARewrite) {
   expected[1].b[5] = "49";
   expected[2].b[5] = "49";
   EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+}
+
+// The row was corrected in the table, and then its draw was edited and stored
+// as it lies in the file: the correction is given up, and does not wait for the
+// file any more.
+TEST(WorkingCopy, AnEditGivesUpTheCorrectionThatWaited) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.User().Pick(desk.Main().ListView1, 3);
+  desk.User().DoubleClick(desk.Main().ListView1);
+  desk.Main().TxtChange(5).SetText("98");
+  desk.User().Click(desk.Main().Label18);
+  desk.User().Pick(desk.Main().List7, 2);
+  desk.User().Click(desk.Main().cmdedit);
+  desk.User().Click(desk.Main().cmdedit);
+  EXPECT_TRUE(desk.Session().database.pending.empty());
+  EXPECT_EQ(desk.Main().ListView1.Cell(3, 5), SampleDraws(3)[2].b[5]);
+  EXPECT_EQ(desk.Desk().Undo(), "Undone: Draw of 03/01/00 changed");
+  EXPECT_EQ(desk.Session().database.pending.size(), 1u);
+  EXPECT_EQ(desk.Main().ListView1.Cell(3, 5), "98");
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(40)));
 }
 
 TEST(WorkingCopy, RewritesMoreThanHalfOfWhatTheCounterHolds) {
