@@ -137,6 +137,7 @@ void Loading::FillBuffers() {
       window.ListView1.AddRow(TableRow(session.current_draw), session.current_place);
     });
   } catch (const base::Error&) {
+    database.log.Clear();  // the next load may read another file
     SetDrawOnShow(session, window, 0);
     throw;
   }

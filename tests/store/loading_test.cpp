@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <random>
 
+#include "base/language/error.h"
 #include "store/headings.h"
+#include "support/failing_disk.h"
 #include "support/test_desk.h"
 
 namespace test {
@@ -180,6 +182,30 @@ TEST(Loading, AFolderInPlaceOfTheFileGoesToTheReporter) {
     return Contains(text, "illigal operation at LoadFirstDatabase");
   }));
   EXPECT_NE(desk.Desk().Main(), nullptr);
+}
+
+// An activation that failed left the log of a file that another program then changed.
+TEST(Loading, OfAnotherFileNothingCanBeTakenBack) {
+  TestDesk desk(SampleDraws(10));
+  FailingDisk disk(desk.host_files);
+  desk.files = &disk;
+  desk.settings.Save("velmonte", "390", "Tips", "False");
+  desk.Start();
+  desk.User().Click(desk.Main().cmdAdd);
+  desk.User().Paste(desk.Main().TxtBall01, "01 02 03 04 05 06 07 10/12/05");
+  desk.User().Click(desk.Main().cmdSave);
+  disk.FailFromNow(1, base::Error(base::kPathAccess));
+  desk.User().Switch(desk.Main());
+  EXPECT_TRUE(disk.HasFailed());
+  EXPECT_EQ(desk.TakeBoxTexts().size(), 1u);
+  EXPECT_EQ(desk.Desk().Undo(), "");
+  const std::string foreign = Encode(SampleDraws(8));
+  desk.WriteDatabase(foreign);
+  desk.User().Switch(desk.Main());
+  EXPECT_EQ(desk.Main().ListView1.RowCount(), 8);
+  EXPECT_EQ(desk.Desk().Undo(), "");
+  EXPECT_TRUE(desk.boxes.shown.empty());
+  EXPECT_EQ(desk.DatabaseBytes(), foreign);
 }
 
 TEST(Headings, DependOnTheFirstAlone) {
