@@ -48,6 +48,12 @@ void MainWindowSubjects::Form_Load() {
   entry_.QNDLabels();
 }
 
+// Without its draws the window could only be closed.
+void MainWindowSubjects::ReloadBuffers() {
+  Form_Load();
+  loading_.FillBuffers();
+}
+
 void MainWindowSubjects::PlaceLabels() {
   for (int ball = 0; ball <= store::kLastBar; ++ball) {
     for (base::Label* label : {&Label1(ball), &Label2(ball)}) {

@@ -60,7 +60,7 @@ class MainWindowSubjects : public store::MainWindow,
     scan::Graph& graph_;
   };
 
-  void ReloadBuffers() override { Form_Load(); }
+  void ReloadBuffers() override;
   void ZeroItMainWindow() override { counts_.ZeroItMainWindow(); }
   void FillCommand4TagMainWindow() override { counts_.FillCommand4TagMainWindow(); }
   bool DoDataBase(const store::Edit& edit) override { return working_copy_.DoDataBase(edit); }

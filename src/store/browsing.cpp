@@ -1,6 +1,7 @@
 #include "store/browsing.h"
 
 #include <array>
+#include <functional>
 
 #include "base/language/numbers.h"
 #include "base/language/text.h"
@@ -13,6 +14,13 @@ constexpr base::Colour kWhite = 0xFFFFFF;
 constexpr base::Colour kHighlight = 0xE0E0E0;
 constexpr int kDateCell = 7;
 constexpr int kDayCell = 8;
+
+// All seven, or error 13 or 6: never some of one draw and some of another.
+std::array<std::uint8_t, kBalls> BallsOf(const std::function<std::string(int)>& text) {
+  std::array<std::uint8_t, kBalls> balls{};
+  for (int k = 0; k < kBalls; ++k) balls[static_cast<std::size_t>(k)] = base::ToByte(text(k));
+  return balls;
+}
 
 const base::MessageBox kEmptyBuffers{
     .text =
@@ -82,7 +90,8 @@ void Browsing::cmdPrev_Click() {
 void Browsing::List7_Click() {
   Session& session = place_.session;
   // A line stands for its own draw, also while one above it is being replaced.
-  const int number = place_.window.List7.Key(place_.window.List7.ListIndex());
+  const base::ListBox& lines = place_.window.List7;
+  const int number = session.database.NumberOf(lines.Key(lines.ListIndex()));
   session.ReadDraw(number);
   session.current_draw_number = static_cast<float>(number);
   FillTextMainWindow();
@@ -137,6 +146,8 @@ void Browsing::FillFromListView() {
   Trapped(place_.reporter, "FillFromListView", [&] {
     if (place_.window.ListView1.RowCount() > 0) {
       ShowSelectedRow();
+    } else if (!place_.session.database.pending.empty()) {
+      SetDrawOnShow(place_.session, place_.window, 0);  // every draw was removed by hand
     } else {
       place_.Ask(kEmptyBuffers);
       neighbours_.ReloadBuffers();
@@ -152,8 +163,14 @@ void Browsing::ShowSelectedRow() {
   ClearHighlight();
   table.EnsureVisible(row);
   session.selected_list_row = base::ToInt16(row);
-  for (int k = 0; k < kBalls; ++k) {
-    session.current_balls[static_cast<std::size_t>(k)] = base::ToByte(table.Cell(row, k));
+  try {
+    session.current_balls = BallsOf([&](int k) { return table.Cell(row, k); });
+  } catch (const base::Error&) {
+    // No box can show it. The draw in the boxes is not the selected one: it cannot be edited from
+    // here, and Remove means the row.
+    SetDrawOnShow(session, place_.window, table.Key(row));
+    place_.window.cmdedit.SetEnabled(false);
+    throw;
   }
   Highlight();
   session.shown_day = table.Cell(row, kDayCell);
@@ -162,6 +179,15 @@ void Browsing::ShowSelectedRow() {
   SetDrawOnShow(session, place_.window, table.Key(row));
   ShowBoxes();
   place_.window.txtRecNum.SetText(base::SingleText(session.current_draw_number));
+}
+
+void Browsing::ShowCells(int row) {
+  Session& session = place_.session;
+  const base::ListView& table = place_.window.ListView1;
+  session.current_balls = BallsOf([&](int k) { return table.Cell(row, k); });
+  session.shown_day = table.Cell(row, kDayCell);
+  session.shown_date = table.Cell(row, kDateCell);
+  ShowBoxes();
 }
 
 void Browsing::ClearHighlight() {
@@ -201,8 +227,11 @@ void Browsing::ShowBoxes() {
 
 void Browsing::FillTextMainWindow() {
   Session& session = place_.session;
-  for (int k = 0; k < kBalls; ++k) {
-    session.current_balls[static_cast<std::size_t>(k)] = base::ToByte(session.current_draw.Ball(k));
+  try {
+    session.current_balls = BallsOf([&](int k) { return session.current_draw.Ball(k); });
+  } catch (const base::Error&) {
+    SetDrawOnShow(session, place_.window, 0);
+    throw;
   }
   session.shown_day = session.current_draw.day;
   session.shown_date = session.current_draw.date;
@@ -216,7 +245,7 @@ void Browsing::GotoDataBasePosition1MainWindow() {
   session.draw_count = 1;
   session.file_pos = 1;
   session.database.Read(session.file_pos, session.current_draw);
-  session.current_place = 1;
+  session.current_place = session.database.PlaceOf(1);
   session.current_draw_number = static_cast<float>(session.draw_count);
   place_.window.ProgressBar1.Each([&](base::Bar& bar) {
     if (bar.Index() == 0) return;

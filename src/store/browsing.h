@@ -33,11 +33,14 @@ class Browsing {
   void MoveLast();
   void EnableTheButtons(bool on);
 
-  // Shows the table's selected row in the boxes; an empty table loads the buffers again.
+  // Shows the table's selected row in the boxes; an empty table loads the buffers again, unless its
+  // rows were removed by hand.
   void FillFromListView();
   // The same for a table with rows, its errors left to the caller. Error 13 or 6 for a ball that is
   // no number from 0 to 255.
   void ShowSelectedRow();
+  // Brings a row into the boxes, and changes nothing else.
+  void ShowCells(int row);
   // Shows current_draw in the boxes and yields once. Errors as above; txtRecNum stays.
   void FillTextMainWindow();
   // Writes current_balls, shown_day and shown_date to their boxes.

@@ -18,6 +18,10 @@ ByteChange ChangeOf(std::string_view before, std::string_view after) {
           .new_bytes = std::string(after.substr(start, after.size() - start - behind))};
 }
 
+bool IsIn(const ByteChange& change, std::string_view after) {
+  return change.offset <= after.size() && after.substr(change.offset).starts_with(change.new_bytes);
+}
+
 std::string TakenBack(const ByteChange& change, std::string_view after) {
   std::string before(after);
   before.replace(change.offset, change.new_bytes.size(), change.old_bytes);
@@ -44,6 +48,7 @@ std::optional<ChangeLog::Undoing> ChangeLog::PlanUndo(std::string_view bytes) co
   if (Newest().empty()) return std::nullopt;
   Undoing plan{.bytes = std::string(bytes)};
   for (auto change = changes_.rbegin(); plan.told.empty(); ++change) {
+    if (!IsIn(change->bytes, plan.bytes)) return std::nullopt;
     plan.bytes = TakenBack(change->bytes, plan.bytes);
     plan.told = change->told;
     plan.pending = change->pending_before;

@@ -22,6 +22,8 @@ struct ByteChange {
   bool IsNone() const { return old_bytes.empty() && new_bytes.empty(); }
 };
 ByteChange ChangeOf(std::string_view before, std::string_view after);
+// Whether the bytes are such as the change made them.
+bool IsIn(const ByteChange& change, std::string_view after);
 std::string TakenBack(const ByteChange& change, std::string_view after);
 
 // The changes of the draws since the window came up, for taking them back, the newest first.
@@ -50,6 +52,7 @@ class ChangeLog {
   void ForgetPending();
   // Empty when there is nothing to take back.
   std::string_view Newest() const;
+  // Nothing where nothing can be taken back, or the bytes are not what the newest change made.
   std::optional<Undoing> PlanUndo(std::string_view bytes) const;
   void Drop(std::size_t changes);
 

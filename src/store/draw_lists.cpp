@@ -81,11 +81,10 @@ DrawRecord RecordOfRow(const base::ListView::Cells& row) {
   return draw;
 }
 
-std::string BytesOfLines(const base::ListBox& lines, const OpenDatabase& database, int index,
-                         const std::string& line) {
+std::string BytesOfLines(const base::ListBox& lines, int index, const std::string& line) {
   std::string bytes;
   for (int at = 0; at < lines.ListCount(); ++at) {
-    if (database.IsBlank(lines.Key(at))) continue;
+    if (lines.Key(at) == OpenDatabase::kBlankPlace) continue;
     DrawRecord draw;
     ParseDrawLine(at == index ? line : lines.Row(at), draw);
     draw.day = TwoLetterDay(draw.day);
@@ -94,11 +93,10 @@ std::string BytesOfLines(const base::ListBox& lines, const OpenDatabase& databas
   return bytes;
 }
 
-std::string BytesOfRows(const base::ListView& table, const OpenDatabase& database,
-                        std::int16_t spare) {
+std::string BytesOfRows(const base::ListView& table, std::int16_t spare) {
   std::string bytes;
   for (int row = 1; row <= table.RowCount(); ++row) {
-    if (database.IsBlank(table.Key(row))) continue;
+    if (table.Key(row) == OpenDatabase::kBlankPlace) continue;
     DrawRecord draw = RecordOfRow(table.Row(row));
     draw.spare = spare;
     bytes += EncodeRecord(draw);
@@ -110,9 +108,11 @@ void FillLists(Session& session, MainWindow& window) {
   OpenDatabase& database = session.database;
   window.List7.Clear();
   window.ListView1.Clear();
-  for (int place = 1; place <= database.UpperBound(); ++place) {
+  if (database.Length() > 0) database.DropBlank();
+  for (int number = 1; number <= database.UpperBound(); ++number) {
+    const int place = database.PlaceOf(number);
     DrawRecord draw;
-    if (!database.IsBlank(place)) database.Read(database.PositionOf(place), draw);
+    database.Read(database.PositionOf(number), draw);
     window.List7.AddItem(DrawLine(draw), place);
     const auto pending = database.pending.find(place);
     if (pending == database.pending.end()) {

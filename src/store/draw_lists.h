@@ -27,13 +27,11 @@ DrawRecord RecordOfRow(const base::ListView::Cells& row);
 
 // The bytes of a whole file, with `line` in place of the one at `index`. The blank row of a file
 // that was empty is in none.
-std::string BytesOfLines(const base::ListBox& lines, const OpenDatabase& database, int index,
-                         const std::string& line);
-std::string BytesOfRows(const base::ListView& table, const OpenDatabase& database,
-                        std::int16_t spare);
+std::string BytesOfLines(const base::ListBox& lines, int index, const std::string& line);
+std::string BytesOfRows(const base::ListView& table, std::int16_t spare);
 
 // Fills both lists anew from what the desk knows of the file and of pending rows, without any
-// event. The selections go.
+// event. The selections go, and so does the blank record where the file has draws by now.
 void FillLists(Session& session, MainWindow& window);
 
 // What is pending, as a person counts it: "1 removal", "2 changes"; empty for nothing.

@@ -28,20 +28,28 @@ void SetDrawOnShow(Session& session, MainWindow& window, int place) {
 void EnableChanges(Session& session, MainWindow& window) {
   const bool complete = session.database.IsComplete();
   const bool in_table = IsInTable(session, window);
-  window.cmdedit.SetEnabled(in_table && !session.database.IsBlank(session.shown_place));
-  window.Command18.SetEnabled(in_table && !IsEditing(window));
+  const bool adding = window.cmdSave.Enabled();
+  const bool blank = session.shown_place == OpenDatabase::kBlankPlace;
+  window.cmdedit.SetEnabled(in_table && !adding && !blank);
+  window.Command18.SetEnabled(in_table && !adding && !IsEditing(window));
   if (!complete) window.cmdAdd.SetEnabled(false);
   for (base::Button* button : {&window.cmdAdd, &window.cmdedit, &window.Command18}) {
     button->SetToolTipText(complete ? "" : kNotComplete);
   }
 }
 
+void CloseRowEditor(Session& session, MainWindow& window) {
+  session.editor_place = 0;
+  window.Picture6.SetVisible(false);
+}
+
 std::string BytesOnShow(Session& session) {
   OpenDatabase& database = session.database;
-  const int place = session.shown_place;
-  if (place < 1 || place > database.UpperBound() || database.IsBlank(place)) return {};
+  const int number = database.NumberOf(session.shown_place);
+  const bool none = session.shown_place < 1 || session.shown_place == OpenDatabase::kBlankPlace;
+  if (none || number > database.UpperBound()) return {};
   DrawRecord draw;
-  database.Read(database.PositionOf(place), draw);
+  database.Read(database.PositionOf(number), draw);
   return EncodeRecord(draw);
 }
 

@@ -19,13 +19,16 @@ inline constexpr const char* kNotComplete =
 void SetDrawOnShow(Session& session, MainWindow& window, int place);
 
 // Enables what may change draws, and says in a tip why where it may not: Edit with a draw on show
-// that is in the table, Remove the same unless an edit goes on (also of the blank row that an empty
-// database has), Add in a database that is known
+// that is in the table, Remove the same (also of the blank row that an empty database has), neither
+// while a draw is added, Remove not while one is edited, Add in a database that is known
 // whole.
 void EnableChanges(Session& session, MainWindow& window);
 
 bool IsEditing(const MainWindow& window);
 void StopEditing(MainWindow& window);
+
+// Closes the row editor where its draw may have come to another place.
+void CloseRowEditor(Session& session, MainWindow& window);
 
 // The record of the draw on show as it lies in the file; empty when there is none.
 std::string BytesOnShow(Session& session);

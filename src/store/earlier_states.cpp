@@ -17,19 +17,17 @@ constexpr std::size_t kTimeLength = 19;
 constexpr std::size_t kDateLength = 10;
 constexpr std::size_t kLast = 20;
 constexpr int kDays = 30;
+constexpr int kMostOfASecond = 9999;
 
 std::string FolderOf(const std::string& path) {
   return path.substr(0, path.find_last_of("\\/") + 1);
-}
-
-std::string EarlierFolder(const std::string& path) {
-  return FolderOf(path) + std::string(kFolder) + "\\";
 }
 
 // The first name that nothing bears.
 std::string Free(base::FileSystem& files, const std::string& stem) {
   std::string path = stem + std::string(kEnding);
   for (int number = 2; files.IsTaken(path); ++number) {
+    if (number > kMostOfASecond) throw base::Error(base::kPathAccess);
     path = stem + " (" + std::to_string(number) + ")" + std::string(kEnding);
   }
   return path;
@@ -93,6 +91,10 @@ std::string DayBefore(base::Date day, int days) {
 
 }  // namespace
 
+std::string FolderOfStates(const std::string& path) {
+  return FolderOf(path) + std::string(kFolder) + "\\";
+}
+
 std::string DatabaseName(const std::string& path) {
   std::string name = path.substr(FolderOf(path).size());
   if (base::EqualNoCase(base::Right(name, kEnding.size()), kEnding)) {
@@ -107,18 +109,23 @@ std::string FreeName(base::FileSystem& files, const std::string& path, const std
                          base::FormatDate(now, kTimePattern));
 }
 
+std::string FreeState(base::FileSystem& files, const std::string& path, const base::DateTime& now) {
+  return Free(
+      files, FolderOfStates(path) + DatabaseName(path) + " " + base::FormatDate(now, kTimePattern));
+}
+
 std::string KeepEarlierState(base::FileSystem& files, const std::string& path,
                              const base::DateTime& now) {
-  const std::string kept = Free(
-      files, EarlierFolder(path) + DatabaseName(path) + " " + base::FormatDate(now, kTimePattern));
+  const std::string kept = FreeState(files, path, now);
+  files.MakeFolder(FolderOfStates(path));
   files.Keep(path, kept);
   return kept;
 }
 
 std::vector<std::string> EarlierStates(base::FileSystem& files, const std::string& path) {
-  std::vector<std::string> names = files.List(EarlierFolder(path), std::string(kEnding));
+  std::vector<std::string> names = files.List(FolderOfStates(path), std::string(kEnding));
   std::erase_if(names, [&](const std::string& name) {
-    return !MomentOf(name) || !base::EqualNoCase(NameOfState(name), DatabaseName(path));
+    return !MomentOf(name) || NameOfState(name) != DatabaseName(path);
   });
   std::sort(names.begin(), names.end(),
             [](const std::string& a, const std::string& b) { return *MomentOf(b) < *MomentOf(a); });
@@ -126,7 +133,7 @@ std::vector<std::string> EarlierStates(base::FileSystem& files, const std::strin
 }
 
 std::string PathOfState(const std::string& path, const std::string& name) {
-  return EarlierFolder(path) + name;
+  return FolderOfStates(path) + name;
 }
 
 std::vector<std::string> Outlived(const std::vector<std::string>& names, base::Date today) {

@@ -17,6 +17,9 @@ std::string DatabaseName(const std::string& path);
 std::string FreeName(base::FileSystem& files, const std::string& path, const std::string& words,
                      const base::DateTime& now);
 
+std::string FolderOfStates(const std::string& path);
+// The path of a new state. Its folder may not be there yet.
+std::string FreeState(base::FileSystem& files, const std::string& path, const base::DateTime& now);
 // Keeps the file that a path leads to now; its new path. Throws where the disk refuses.
 std::string KeepEarlierState(base::FileSystem& files, const std::string& path,
                              const base::DateTime& now);

@@ -271,7 +271,7 @@ bool Entry::SaveNewRecord() {
         {.told = "Draw of " + draw.date + " saved",
          .bytes = {.offset = old_size, .new_bytes = session.database.Bytes().substr(old_size)},
          .pending_before = session.database.pending,
-         .place = session.UpperBound()});
+         .place = session.current_place});
     place_.window.cmdClear.SetEnabled(true);
     saved = true;
   });
@@ -280,7 +280,7 @@ bool Entry::SaveNewRecord() {
 
 void Entry::ShowSavedDraw() {
   const DrawRecord saved = place_.session.current_draw;
-  const int place = place_.session.UpperBound();
+  const int place = place_.session.database.PlaceOf(place_.session.UpperBound());
   MainWindow& window = place_.window;
   browsing_.cmdLast_Click();
   window.List7.AddItem(DrawLine(saved), place);
@@ -351,7 +351,7 @@ void Entry::ReplaceEditedLine() {
   const std::string line = LineOfBoxes();
   const std::string old_line = window.List7.Row(index);
   const base::ListView::Cells old_row = window.ListView1.Row(row);
-  const Edit edit{.bytes = BytesOfLines(window.List7, database, index, line),
+  const Edit edit{.bytes = BytesOfLines(window.List7, index, line),
                   .place = place,
                   .date = window.txtDate.Text()};
   const int loads = database.Loads();

@@ -90,6 +90,8 @@ void Guard::LoadAgain() {
   const int old_place = session.shown_place;
   const DrawRecord current = session.current_draw;
   int place = 0;
+  database.KeepWhatWasRead(place_.World().clock.Now());
+  CloseRowEditor(session, place_.window);
   try {
     database.Open(std::string(database.Path()));
     WalkFile(session, [&] {

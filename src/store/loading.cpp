@@ -1,5 +1,7 @@
 #include "store/loading.h"
 
+#include <algorithm>
+
 #include "base/language/dates.h"
 #include "base/language/text.h"
 #include "store/draw_lists.h"
@@ -26,7 +28,8 @@ bool ReadsDayFirst(base::DateOrder order) {
 
 bool IsDatabaseName(std::string_view name) {
   return !name.empty() && name != "." && name != ".." &&
-         name.find_first_of("\\/") == std::string_view::npos;
+         std::none_of(name.begin(), name.end(),
+                      [](char c) { return c == '\\' || c == '/' || (c >= 0 && c < ' '); });
 }
 
 void DoTextBoxExpandshion(MainWindow& window) {
@@ -90,7 +93,7 @@ void Loading::Form_Activate() {
   if (place_.desktop.IsHeld(place_.window)) return;
   const base::Desktop::Hold hold(place_.desktop, place_.window);
   // What comes in the yield must not find the flags of an earlier window.
-  place_.session.data_base_changed = false;
+  ForgetChanges();
   Trapped(place_.reporter, "Form_Activate", [&] {
     Session& session = place_.session;
     MainWindow& window = place_.window;
@@ -98,7 +101,7 @@ void Loading::Form_Activate() {
     neighbours_.DoBarColors();
     neighbours_.DoMenus();
 
-    session.data_base_changed = false;
+    ForgetChanges();
     session.current_draw_number = 1;
     session.filter_count = 1;
     window.txtRecNum.SetText("1");
@@ -108,7 +111,7 @@ void Loading::Form_Activate() {
     session.draw_count = 0;
     session.file_pos = 1;
     DoTextBoxExpandshion(window);
-    if (window.List7.ListCount() < kFilledFrom) FillBuffers();
+    if (window.List7.ListCount() < kFilledFrom && !HoldsWhatIsNowhereElse()) FillBuffers();
 
     place_.Yield();
     if (window.ListView1.RowCount() == 0) {
@@ -119,6 +122,18 @@ void Loading::Form_Activate() {
     window.ListView1.EnsureVisible(1);
     StartBrowsing();
   });
+}
+
+void Loading::ForgetChanges() {
+  Session& session = place_.session;
+  session.data_base_changed = session.keeps_pending && !session.database.pending.empty();
+}
+
+// The rows of a file that the person left alone, and on a screen what waits for the file.
+bool Loading::HoldsWhatIsNowhereElse() const {
+  const Session& session = place_.session;
+  return session.database.IsComplete() &&
+         (session.database.keeps_own_rows || session.data_base_changed);
 }
 
 void Loading::FillBuffers() {
@@ -138,10 +153,14 @@ void Loading::FillBuffers() {
     });
   } catch (const base::Error&) {
     database.log.Clear();  // the next load may read another file
+    CloseRowEditor(session, window);
     SetDrawOnShow(session, window, 0);
     throw;
   }
-  if (was_complete && database.Bytes() != before) database.log.Clear();
+  if (!was_complete || database.Bytes() != before) {
+    database.log.Clear();
+    CloseRowEditor(session, window);
+  }
   window.ListView1.Select(1);
   browsing_.FillFromListView();
 }
@@ -154,6 +173,7 @@ void Loading::StartBrowsing() {
   window.cmdClear.SetEnabled(false);
   window.cmdPrev.SetEnabled(true);
   window.cmdNext.SetEnabled(true);
+  EnableChanges(session, window);
   if (session.current_draw.b[0].empty()) return;
 
   browsing_.GotoDataBasePosition1MainWindow();

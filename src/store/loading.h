@@ -31,10 +31,13 @@ class Loading {
   // window to its browsing state.
   void Form_Activate();
   void GetDataBaseName();
+  // Reads the open database into the index, the draw lines and the table, and shows its first draw.
+  void FillBuffers();
 
  private:
   void ChooseDatabase();
-  void FillBuffers();
+  void ForgetChanges();
+  bool HoldsWhatIsNowhereElse() const;
   void StartBrowsing();
 
   Workplace place_;
@@ -45,7 +48,8 @@ class Loading {
 // Sets the range of the strip's scroll bar, which shows while the strip is wider than its frame.
 void DoTextBoxExpandshion(MainWindow& window);
 
-// A database is a file of its own folder: a name with a separator in it is none.
+// A database is a file of its own folder: a name with a separator or a control character in it is
+// none.
 bool IsDatabaseName(std::string_view name);
 
 }  // namespace store

@@ -23,8 +23,9 @@ void OpenDatabase::Open(const std::string& path) {
   log.Clear();
   keeps_own_rows = false;
   path_ = path;
+  TryLock();
   try {
-    TryLock();
+    if (access_ != Access::kMine && !files_.Identify(path)) return Close();
     file_.Open(path);
   } catch (const base::Error&) {
     Close();
@@ -41,7 +42,8 @@ void OpenDatabase::DropTwin() {
     if (states.empty()) return;
     const std::string newest = PathOfState(path_, states.front());
     const std::optional<base::FileIdentity> state = files_.Identify(newest);
-    if (state && file_.IsTheFile(*state)) files_.Remove(newest);
+    // A database may also be a link to the state that somebody went back to: its only name then.
+    if (state && file_.IsTheFile(*state) && state->names > 1) files_.Remove(newest);
   } catch (const base::Error&) {
     // One state too many does no harm.
   }
@@ -79,6 +81,7 @@ void OpenDatabase::BeginWalk() {
 
 std::int32_t OpenDatabase::Next(DrawRecord& record) {
   const std::int32_t position = next_;
+  if (UpperBound() == 0) begins_blank_ = Length() == 0;
   if (IsOpen()) {
     next_ = file_.Read(position, record);
   } else {
@@ -90,7 +93,6 @@ std::int32_t OpenDatabase::Next(DrawRecord& record) {
 }
 
 void OpenDatabase::EndWalk() {
-  begins_blank_ = Length() == 0;
   if (!IsOpen()) return;
   file_.Bytes();
   is_complete_ = true;
@@ -100,6 +102,21 @@ std::int32_t OpenDatabase::PositionOf(double draw_number) const {
   const std::int32_t index = base::ToInt32(draw_number);
   if (index < 0 || index > UpperBound()) throw base::Error(base::kSubscript);
   return positions_[static_cast<std::size_t>(index)];
+}
+
+int OpenDatabase::PlaceOf(int number) const {
+  if (!begins_blank_) return number;
+  return number == 1 ? kBlankPlace : number - 1;
+}
+
+int OpenDatabase::NumberOf(int place) const {
+  if (place == kBlankPlace) return 1;
+  return begins_blank_ ? place + 1 : place;
+}
+
+void OpenDatabase::DropBlank() {
+  begins_blank_ = false;
+  IndexBytes();
 }
 
 // The index of what was written: nothing is read back.
@@ -178,6 +195,18 @@ OpenDatabase::Rewritten OpenDatabase::Rewrite(const std::string& bytes, const ba
   IndexBytes();
   PruneEarlierStates(files_, path_, {now.year, now.month, now.day});
   return result;
+}
+
+void OpenDatabase::KeepWhatWasRead(const base::DateTime& now) {
+  try {
+    const std::string& bytes = file_.Bytes();
+    if (bytes.empty() || files_.ReadAll(path_).starts_with(bytes)) return;
+    const std::string state = FreeState(files_, path_, now);
+    files_.MakeFolder(FolderOfStates(path_));
+    files_.Replace(state, bytes);
+  } catch (const base::Error&) {
+    // The person has chosen the file; a state that cannot be kept is no reason to refuse it.
+  }
 }
 
 void OpenDatabase::WriteAgain() {

@@ -24,7 +24,8 @@ class OpenDatabase {
   // --- The file
 
   // Closes what was open, locks the database for this desk, and opens the file. A missing one comes
-  // into being, empty. Throws where it cannot be opened: then none is open.
+  // into being, empty, unless the lock is not to be had: then none is open, as where it cannot be
+  // opened, which throws.
   void Open(const std::string& path);
   void Close();
   bool IsOpen() const { return file_.IsOpen(); }
@@ -67,9 +68,14 @@ class OpenDatabase {
   std::int32_t Read(std::int32_t position, DrawRecord& record) {
     return file_.Read(position, record);
   }
-  // The index begins with the blank record of a file that was empty; it is in no file.
+  // The index of a file that was empty begins with a blank record, which is in no file and goes
+  // when the lists are filled anew. So a draw has a number in the index and a place in the file,
+  // from 1, by which lines, rows and changes know it.
+  static constexpr int kBlankPlace = 1 << 30;
   bool BeginsBlank() const { return begins_blank_; }
-  bool IsBlank(int place) const { return begins_blank_ && place == 1; }
+  int PlaceOf(int number) const;
+  int NumberOf(int place) const;
+  void DropBlank();
   const std::string& Bytes() { return file_.Bytes(); }
 
   // --- Changes
@@ -87,6 +93,9 @@ class OpenDatabase {
   };
   // Puts these bytes in place of the file, of which an earlier state is kept.
   Rewritten Rewrite(const std::string& bytes, const base::DateTime& now);
+  // Keeps what was read, or written last, among the earlier states, before a file that somebody
+  // else has changed is read in its place. One that only grew has it all.
+  void KeepWhatWasRead(const base::DateTime& now);
   // Writes what was read, or written last, to a path where no file is any more.
   void WriteAgain();
   // The names of the earlier states that are kept, the newest first.

@@ -28,12 +28,14 @@ void RowEditor::Wire() {
 }
 
 void RowEditor::ListView1_DblClick() {
+  Session& session = place_.session;
   MainWindow& window = place_.window;
   const int selected = window.ListView1.SelectedIndex();
+  if (selected == 0) return;  // a double click beside the rows
   const base::ListView::Cells row = window.ListView1.Row(selected);
-  const OpenDatabase& database = place_.session.database;
-  opened_on_ = window.ListView1.Key(selected);
-  window.Label18.SetEnabled(database.IsComplete() && !database.IsBlank(opened_on_));
+  session.editor_place = window.ListView1.Key(selected);
+  window.Label18.SetEnabled(session.database.IsComplete() &&
+                            session.editor_place != OpenDatabase::kBlankPlace);
   window.Picture6.BringToFront();
   window.Picture6.SetVisible(true);
   for (int cell = 0; cell < kCells; ++cell) {
@@ -56,7 +58,7 @@ void RowEditor::Label18_Click() {
   }
   base::ListView::Cells cells;
   for (int cell = 0; cell < kCells; ++cell) cells.push_back(window.TxtChange(cell).Text());
-  Change(opened_on_, std::move(cells));
+  Change(place_.session.editor_place, std::move(cells));
   window.Picture6.SetVisible(false);
 }
 
@@ -73,6 +75,8 @@ void RowEditor::Change(int draw, base::ListView::Cells cells) {
     table.SetCell(row, cell, cells[static_cast<std::size_t>(cell)]);
   }
   database.pending[draw] = std::move(cells);
+  // The boxes would give the draw its old balls back with the next edit.
+  if (draw == place_.session.shown_place && !IsEditing(place_.window)) browsing_.ShowCells(row);
 }
 
 void RowEditor::CmdCancelSave_Click() { place_.window.Picture6.SetVisible(false); }
@@ -90,7 +94,7 @@ void RowEditor::SaveItToTemp() {
   const int draw = session.shown_place;
   const int row = table.RowWithKey(draw);
   if (row == 0) return;
-  if (!database.IsBlank(draw)) {
+  if (draw != OpenDatabase::kBlankPlace) {
     database.log.Add({.told = "Draw of " + table.Cell(row, kDateCell) + " removed",
                       .pending_before = database.pending,
                       .place = draw});

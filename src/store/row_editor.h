@@ -24,7 +24,6 @@ class RowEditor {
 
   Workplace place_;
   Browsing& browsing_;
-  int opened_on_ = 0;  // the place of the draw that the panel was opened on
 };
 
 }  // namespace store

@@ -7,13 +7,13 @@ namespace store {
 void Session::ReadDraw(double draw_number) {
   file_pos = database.PositionOf(draw_number);
   database.Read(file_pos, current_draw);
-  current_place = base::ToInt32(draw_number);
+  current_place = database.PlaceOf(base::ToInt32(draw_number));
 }
 
 void IndexNextRecord(Session& session) {
   session.file_pos = session.database.Next(session.current_draw);
-  session.current_place = session.UpperBound();
-  session.draw_count = base::ToInt16(session.current_place);
+  session.current_place = session.database.PlaceOf(session.UpperBound());
+  session.draw_count = base::ToInt16(session.UpperBound());
 }
 
 void WalkFile(Session& session) {
@@ -29,7 +29,7 @@ void GoToEnd(Session& session) {
 
 void AppendCurrentDraw(Session& session) {
   session.draw_count = session.database.Append(session.current_draw);
-  session.current_place = session.draw_count;
+  session.current_place = session.database.PlaceOf(session.draw_count);
   session.file_pos = session.database.Positions().back();
   session.current_draw_number = static_cast<float>(session.draw_count) + 1;
 }

@@ -32,17 +32,20 @@ struct Session {
   std::string program_folder;
   OpenDatabase database;    // file number 1
   DrawRecord current_draw;  // the one buffer of every read and write of the file
-  int current_place = 0;    // of current_draw among the draws, as it was read
+  int current_place = 0;    // of current_draw in the file, as it was read; 0 for none
   std::int16_t draw_count = 0;
   std::int32_t file_pos = 0;
   std::string data_base_name;
   std::string data_base_path;
   std::string temp_path;
   bool data_base_changed = false;
+  // On a screen an activation forgets nothing that waits in the table.
+  bool keeps_pending = false;
 
   // The draw on show: its place among the draws of the file, 0 for none; the other numbers count in
   // ways of their own.
   int shown_place = 0;
+  int editor_place = 0;  // of the draw that the row editor was opened on
   float current_draw_number = 0;
   std::array<std::uint8_t, kBalls> current_balls{};
   std::string shown_day;

@@ -8,7 +8,7 @@ namespace store {
 
 std::string Undo::TakeBack() {
   OpenDatabase& database = place_.session.database;
-  if (place_.desktop.Depth() > 1 || place_.desktop.IsHeld(place_.window)) return {};
+  if (place_.desktop.Depth() > 1 || place_.desktop.IsYielding()) return {};
   const base::Desktop::Hold hold(place_.desktop, place_.window);
   std::string told;
   Trapped(place_.reporter, "Undo", [&] {
@@ -26,6 +26,7 @@ bool Undo::Apply(const ChangeLog::Undoing& undoing) {
   if (undoing.bytes != database.Bytes()) {
     if (!guard_.MayWrite()) return false;
     guard_.Rewrite(undoing.bytes);
+    CloseRowEditor(session, place_.window);
   }
   database.log.Drop(undoing.changes);
   database.pending = undoing.pending;
@@ -40,12 +41,12 @@ bool Undo::Apply(const ChangeLog::Undoing& undoing) {
 // A draw that is being typed stays in the boxes.
 void Undo::ShowDraw(int place) {
   base::ListView& table = place_.window.ListView1;
-  const bool typing = place_.session.shown_place == 0 && place_.window.cmdSave.Enabled();
+  const bool typing = place_.window.cmdSave.Enabled();
   const int row = table.RowWithKey(place);
   table.Select(row > 0 ? row : table.RowCount());
   table.EnsureVisible(table.SelectedIndex());
+  SetDrawOnShow(place_.session, place_.window, 0);
   if (!typing && table.RowCount() > 0) browsing_.FillFromListView();
-  EnableChanges(place_.session, place_.window);
 }
 
 }  // namespace store

@@ -15,7 +15,7 @@ namespace {
 bool IsWhole(const base::ListView& table, const OpenDatabase& database) {
   const auto removed = std::count_if(database.pending.begin(), database.pending.end(),
                                      [](const auto& row) { return !row.second.has_value(); });
-  const bool has_blank = database.BeginsBlank() && table.RowWithKey(1) > 0;
+  const bool has_blank = table.RowWithKey(OpenDatabase::kBlankPlace) > 0;
   const int draws = database.UpperBound() - (database.BeginsBlank() ? 1 : 0);
   return table.RowCount() - (has_blank ? 1 : 0) + removed >= draws;
 }
@@ -117,8 +117,8 @@ void WorkingCopy::RewriteFromTable() {
   if (!database.IsComplete()) return;
   Trapped(place_.reporter, "Form_Unload", [&] {
     const base::ListView& table = place_.window.ListView1;
-    if (!IsWhole(table, database)) return;
-    const std::string bytes = BytesOfRows(table, database, session.current_draw.spare);
+    if (!IsWhole(table, database)) return TellNotWhole();
+    const std::string bytes = BytesOfRows(table, session.current_draw.spare);
     GoThroughRows();
     if (bytes == database.Bytes() && !database.keeps_own_rows) return;
     if (guard_.MayWriteAtClose()) {
@@ -127,6 +127,12 @@ void WorkingCopy::RewriteFromTable() {
       KeepOwnRows(bytes);
     }
   });
+}
+
+// Rows went in some other way than by hand: the file is more to be trusted.
+void WorkingCopy::TellNotWhole() {
+  place_.Ask({.text = "The table does not hold every draw of the database, nothing was changed",
+              .icon = base::BoxIcon::kExclamation});
 }
 
 // Leaves what showing and copying one row after the other leaves.
@@ -170,12 +176,13 @@ void WorkingCopy::StorePending() {
   Session& session = place_.session;
   OpenDatabase& database = session.database;
   base::ListView& table = place_.window.ListView1;
-  if (database.pending.empty() || place_.desktop.IsHeld(place_.window)) return;
+  // The places of the draws are not changed under a procedure that walks through them.
+  if (database.pending.empty() || place_.desktop.IsYielding()) return;
   const base::Desktop::Hold hold(place_.desktop, place_.window);
   Trapped(place_.reporter, "StorePending", [&] {
-    if (!IsWhole(table, database)) return;
+    if (!IsWhole(table, database)) return TellNotWhole();
     const std::string before = database.Bytes();
-    const std::string bytes = BytesOfRows(table, database, session.current_draw.spare);
+    const std::string bytes = BytesOfRows(table, session.current_draw.spare);
     if (bytes != before) {
       if (!guard_.MayWrite()) return;
       guard_.Rewrite(bytes);
@@ -184,20 +191,26 @@ void WorkingCopy::StorePending() {
         {.bytes = ChangeOf(before, bytes), .pending_before = std::move(database.pending)});
     database.pending.clear();
     session.data_base_changed = false;
-    ShowStored(table.SelectedIndex(), table.RowWithKey(session.shown_place));
+    ShowStored();
   });
 }
 
-// The draws have the places of their rows now. What stands in the boxes stays there.
-void WorkingCopy::ShowStored(int selected, int shown) {
+// The draws have the places of their rows now, a blank one apart. What stands in the boxes and in
+// the row editor stays there.
+void WorkingCopy::ShowStored() {
   Session& session = place_.session;
   MainWindow& window = place_.window;
+  const base::ListView& table = window.ListView1;
+  const int blank = table.RowWithKey(OpenDatabase::kBlankPlace) > 0 ? 1 : 0;
+  const auto place_of = [blank](int row) { return std::max(row - blank, 0); };
+  const int selected = place_of(table.SelectedIndex());
+  const int shown = place_of(table.RowWithKey(session.shown_place));
+  session.editor_place = place_of(table.RowWithKey(session.editor_place));
   FillLists(session, window);
   window.ListView1.Select(std::min(selected, window.ListView1.RowCount()));
   window.ListView1.EnsureVisible(window.ListView1.SelectedIndex());
   session.current_place = 0;
   session.shown_place = shown;
-  session.draw_count = base::ToInt16(session.UpperBound());
   EnableChanges(session, window);
 }
 

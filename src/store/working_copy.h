@@ -40,7 +40,8 @@ class WorkingCopy {
   void GoThroughRows();
   void WriteRows(const std::string& bytes);
   void KeepOwnRows(const std::string& bytes);
-  void ShowStored(int selected, int shown);
+  void ShowStored();
+  void TellNotWhole();
 
   Workplace place_;
   Browsing& browsing_;

@@ -63,6 +63,7 @@ App::App(const std::string& program_folder, const std::string& settings_file)
       desk_(platform_.All(), base::ToDeskPath(program_folder)) {
   Theme::Current().Attach(&settings_);
   desk_.Desktop().SetView(this);
+  desk_.Session().keeps_pending = true;
   lock_clock_.setInterval(kLockPause);
   connect(&lock_clock_, &QTimer::timeout, this, &App::TryForLock);
 }

@@ -30,6 +30,9 @@ class MemoryFiles : public base::NoFiles {
   std::unique_ptr<base::File> Open(const std::string&) override {
     return std::make_unique<MemoryFile>(*this);
   }
+  std::optional<base::FileIdentity> Identify(const std::string&) override {
+    return base::FileIdentity{.number = 1};
+  }
   std::string bytes;
   int reads = 0;
 };

@@ -80,6 +80,11 @@ void FailingDisk::Rename(const std::string& path, const std::string& new_path) {
   disk_.Rename(path, new_path);
 }
 
+void FailingDisk::MakeFolder(const std::string& path) {
+  Count();
+  disk_.MakeFolder(path);
+}
+
 void FailingDisk::Keep(const std::string& path, const std::string& second_path) {
   Count();
   disk_.Keep(path, second_path);

@@ -141,7 +141,15 @@ void Desktop::Dispatch(const std::function<void()>& event) {
   CloseWaiting();
 }
 
-void Desktop::Yield() { ports_.pump.Pump(); }
+void Desktop::Yield() {
+  struct Waiting {
+    explicit Waiting(int& yields) : yields(yields) { ++yields; }
+    ~Waiting() { --yields; }
+    int& yields;
+  };
+  const Waiting waiting(yields_);
+  ports_.pump.Pump();
+}
 
 void Desktop::YieldFor(const Form& form) {
   Yield();

@@ -74,6 +74,8 @@ class Desktop {
   void Yield();
   // The same for a procedure of this window: throws WindowClosed if the yield closed it.
   void YieldFor(const Form& form);
+  // Whether a procedure is waiting in a yield for the running event.
+  bool IsYielding() const { return yields_ > 0; }
   // How many events are running inside each other.
   int Depth() const { return depth_; }
 
@@ -105,6 +107,7 @@ class Desktop {
   std::vector<const Form*> held_;
   std::vector<Form*> waiting_to_close_;
   int depth_ = 0;
+  int yields_ = 0;
   int tabs_sent_ = 0;
   std::vector<std::shared_ptr<void>> buried_;
 };

@@ -178,7 +178,8 @@ FileIdentity IdentityOf(const struct stat& status) {
   return {.device = status.st_dev,
           .number = status.st_ino,
           .size = status.st_size,
-          .modified = status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec};
+          .modified = status.st_mtim.tv_sec * kNanoseconds + status.st_mtim.tv_nsec,
+          .names = status.st_nlink};
 }
 
 class HostFile : public File {
@@ -247,13 +248,8 @@ int OpenAnew(const std::string& path, mode_t mode) {
   return OpenHost(path, kFlags, mode);
 }
 
-// Makes the folder that a file is to lie in; one that is there is welcome.
-void MakeFolderOf(const std::string& path) {
-  const std::string folder = FolderOf(path);
-  if (Retried([&] { return mkdir(folder.c_str(), kNewFolderMode); }) != 0 && errno != EEXIST) {
-    Fail(errno, folder);
-  }
-}
+// The host would take such a path as one that ends there.
+bool HasZero(const std::string& path) { return path.find('\0') != std::string::npos; }
 
 // Why a disk gives no file a second name: it knows none, not from there, not this file, or no more.
 bool HasNoSecondNames(int host_error) {
@@ -277,16 +273,16 @@ void FlushFolderOf(const std::string& path) {
 }  // namespace
 
 bool HostFileSystem::FileExists(const std::string& path) {
-  return HasMode(ResolveHostPath(path), S_IFREG);
+  return !HasZero(path) && HasMode(ResolveHostPath(path), S_IFREG);
 }
 
 bool HostFileSystem::FolderExists(const std::string& path) {
-  return HasMode(ResolveHostPath(path), S_IFDIR);
+  return !HasZero(path) && HasMode(ResolveHostPath(path), S_IFDIR);
 }
 
 bool HostFileSystem::IsTaken(const std::string& path) {
   struct stat status {};
-  return lstat(ResolveHostPath(path).c_str(), &status) == 0;
+  return !HasZero(path) && lstat(ResolveHostPath(path).c_str(), &status) == 0;
 }
 
 std::optional<FileIdentity> HostFileSystem::Identify(const std::string& path) {
@@ -359,10 +355,18 @@ void HostFileSystem::Rename(const std::string& path, const std::string& new_path
   }
 }
 
+void HostFileSystem::MakeFolder(const std::string& path) {
+  const std::string folder = ResolveHostPath(path);
+  if (Retried([&] { return mkdir(folder.c_str(), kNewFolderMode); }) == 0) {
+    FlushFolderOf(folder);
+  } else if (errno != EEXIST) {
+    Fail(errno, folder);
+  }
+}
+
 void HostFileSystem::Keep(const std::string& path, const std::string& second_path) {
   const std::string target = LinkTarget(ResolveHostPath(path));
   const std::string second = ResolveHostPath(second_path);
-  MakeFolderOf(second);
   if (Retried([&] { return link(target.c_str(), second.c_str()); }) == 0) {
     return FlushFolderOf(second);
   }

@@ -71,6 +71,7 @@ std::string AsSpelt(std::string_view desk_path) {
 }  // namespace
 
 std::string ResolveHostPath(std::string_view desk_path) {
+  if (desk_path.find('\0') != std::string_view::npos) throw Error(kPathAccess);
   std::string as_it_stands = AsSpelt(desk_path);
   if (Exists(as_it_stands)) return as_it_stands;
   const bool from_root = !desk_path.empty() && IsSeparator(desk_path.front());

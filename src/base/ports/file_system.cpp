@@ -13,6 +13,7 @@ std::string NoFiles::ReadAll(const std::string&) { throw Error(kFileNotFound); }
 void NoFiles::Replace(const std::string&, std::string_view) { throw Error(kPathNotFound); }
 void NoFiles::Remove(const std::string&) { throw Error(kFileNotFound); }
 void NoFiles::Rename(const std::string&, const std::string&) { throw Error(kFileNotFound); }
+void NoFiles::MakeFolder(const std::string&) { throw Error(kPathNotFound); }
 void NoFiles::Keep(const std::string&, const std::string&) { throw Error(kFileNotFound); }
 LockAttempt NoFiles::TryLock(const std::string&) { return {}; }
 std::vector<std::string> NoFiles::List(const std::string&, const std::string&) { return {}; }

@@ -16,6 +16,7 @@ struct FileIdentity {
   std::uint64_t number = 0;
   std::int64_t size = 0;
   std::int64_t modified = 0;
+  std::uint64_t names = 0;  // that the disk has for it
   bool IsSameFile(const FileIdentity& other) const {
     return device == other.device && number == other.number;
   }
@@ -48,7 +49,8 @@ class File {
 };
 
 // The files of the desk, by paths as the desk writes them: either separator, names matched without
-// regard to case. The whole interface is what the desk needs and no more.
+// regard to case. A name with a zero byte is borne by nothing, and to use it is error 75. The whole
+// interface is what the desk needs and no more.
 class FileSystem {
  public:
   virtual ~FileSystem() = default;
@@ -72,8 +74,10 @@ class FileSystem {
   // Gives a file, a link or whatever bears the name another one, in the same folder. A name that is
   // taken is error 75.
   virtual void Rename(const std::string& path, const std::string& new_path) = 0;
+  // Makes a folder in one that is there. One that is there already is welcome.
+  virtual void MakeFolder(const std::string& path) = 0;
   // Gives the file a second name, which keeps its bytes when the first comes to stand for others; a
-  // copy where the disk has no such names. The folder of the second name comes into being.
+  // copy where the disk has no such names. Its folder has to be there.
   virtual void Keep(const std::string& path, const std::string& second_path) = 0;
   // Locks a file that serves no other purpose; it comes into being and is never deleted. Waits for
   // nothing, and never throws.
@@ -95,6 +99,7 @@ class NoFiles : public FileSystem {
   void Replace(const std::string& path, std::string_view bytes) override;
   void Remove(const std::string& path) override;
   void Rename(const std::string& path, const std::string& new_path) override;
+  void MakeFolder(const std::string& path) override;
   void Keep(const std::string& path, const std::string& second_path) override;
   LockAttempt TryLock(const std::string& path) override;
   std::vector<std::string> List(const std::string& folder, const std::string& ending) override;

@@ -1,0 +1,321 @@
+// A change means the draw that the person sees, wherever its row and its record have come to.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "support/test_desk.h"
+
+namespace test {
+namespace {
+
+using Draws = std::vector<store::DrawRecord>;
+
+void StartQuietly(TestDesk& desk) {
+  desk.settings.Save("velmonte", "390", "Tips", "False");
+  desk.Start();
+}
+
+Draws Without(Draws draws, std::initializer_list<int> places) {
+  int gone = 0;
+  for (const int place : places) draws.erase(draws.begin() + (place - 1 - gone++));
+  return draws;
+}
+
+void Remove(TestDesk& desk, int row) {
+  desk.User().Pick(desk.Main().ListView1, row);
+  desk.User().Click(desk.Main().Command18);
+}
+
+// Another sixth ball for the draw on show.
+void Edit(TestDesk& desk, const std::string& ball) {
+  desk.User().Click(desk.Main().cmdedit);
+  desk.Main().TxtBall06.SetText(ball);
+  desk.User().Click(desk.Main().cmdedit);
+}
+
+void Add(TestDesk& desk, const store::DrawRecord& draw) {
+  desk.User().Click(desk.Main().cmdAdd);
+  for (int k = 0; k < store::kBalls; ++k) desk.Main().BallBox(k).SetText(draw.Ball(k));
+  desk.Main().TxtBall07.SetText(draw.day);
+  desk.Main().txtDate.SetText(draw.date);
+  desk.User().Click(desk.Main().cmdSave);
+}
+
+void Switch(TestDesk& desk) { desk.User().Switch(desk.Main()); }
+
+void OpenEditor(TestDesk& desk, int row, const std::string& first_ball) {
+  desk.User().Pick(desk.Main().ListView1, row);
+  desk.User().DoubleClick(desk.Main().ListView1);
+  desk.Main().TxtChange(0).SetText(first_ball);
+}
+
+TEST(RowEditorPlace, FollowsItsDrawWhenPendingRowsAreStored) {
+  TestDesk desk;
+  StartQuietly(desk);
+  Remove(desk, 2);
+  OpenEditor(desk, 4, "49");
+  desk.Desk().StorePending();
+  EXPECT_TRUE(desk.Main().Picture6.Visible());
+  desk.User().Click(desk.Main().Label18);
+  desk.Desk().Stop();
+  Draws expected = SampleDraws(40);
+  expected[4].b[0] = "49";
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(Without(expected, {2})));
+}
+
+TEST(RowEditorPlace, IsGivenUpByAnUndoThatChangesTheFile) {
+  TestDesk desk;
+  StartQuietly(desk);
+  Remove(desk, 2);
+  desk.Desk().StorePending();
+  OpenEditor(desk, 5, "49");
+  EXPECT_EQ(desk.Desk().Undo(), "Undone: Draw of 02/01/00 removed");
+  EXPECT_FALSE(desk.Main().Picture6.Visible());
+  desk.User().Click(desk.Main().Label18);
+  desk.Desk().Stop();
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(40)));
+}
+
+TEST(RowEditorPlace, FollowsItsDrawWhenTheBlankRowGoes) {
+  TestDesk desk(Draws{});
+  StartQuietly(desk);
+  const Draws draws = SampleDraws(2);
+  for (const store::DrawRecord& draw : draws) Add(desk, draw);
+  OpenEditor(desk, 2, "49");
+  Switch(desk);
+  desk.User().Click(desk.Main().Label18);
+  desk.Desk().Stop();
+  Draws expected = draws;
+  expected[0].b[0] = "49";
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+}
+
+TEST(RowEditorPlace, IsGivenUpWhenAnotherFileIsLoaded) {
+  TestDesk desk;
+  StartQuietly(desk);
+  OpenEditor(desk, 4, "49");
+  const Draws foreign = Without(SampleDraws(40), {1});
+  desk.WriteDatabase(Encode(foreign));
+  desk.boxes.answers = {base::Answer::kYes};
+  Add(desk, Draw({1, 2, 3, 4, 5, 6, 7}));
+  EXPECT_FALSE(desk.Main().Picture6.Visible());
+  desk.User().Click(desk.Main().Label18);
+  desk.Desk().Stop();
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(foreign));
+}
+
+TEST(RowEditorPlace, ADoubleClickOnAnEmptiedTableDoesNothing) {
+  TestDesk desk(SampleDraws(1));
+  StartQuietly(desk);
+  Remove(desk, 1);
+  desk.User().DoubleClick(desk.Main().ListView1);
+  EXPECT_TRUE(desk.boxes.shown.empty());
+  EXPECT_FALSE(desk.Main().Picture6.Visible());
+}
+
+// The boxes kept the balls from before a correction in the table, and the next edit wrote them
+// back.
+TEST(RowEditorPlace, TheBoxesShowWhatItWasGiven) {
+  TestDesk desk;
+  StartQuietly(desk);
+  OpenEditor(desk, 4, "49");
+  desk.User().Click(desk.Main().Label18);
+  EXPECT_EQ(desk.Main().TxtBall01.Text(), "49");
+  Edit(desk, "48");
+  desk.Desk().Stop();
+  Draws expected = SampleDraws(40);
+  expected[3].b[0] = "49";
+  expected[3].b[5] = "48";
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+}
+
+TEST(BlankRow, DoesNotShiftAnEditBehindAStore) {
+  TestDesk desk(Draws{});
+  StartQuietly(desk);
+  const Draws draws = SampleDraws(3);
+  for (const store::DrawRecord& draw : draws) Add(desk, draw);
+  Remove(desk, 1);  // the blank row
+  Remove(desk, 1);
+  desk.User().Pick(desk.Main().ListView1, 2);
+  desk.Desk().StorePending();
+  Edit(desk, "49");
+  desk.Desk().Stop();
+  Draws expected = Without(draws, {1});
+  expected[1].b[5] = "49";
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+}
+
+TEST(BlankRow, OfAnEmptiedFileDoesNotShiftWhatIsTakenBack) {
+  TestDesk desk(SampleDraws(2));
+  StartQuietly(desk);
+  OpenEditor(desk, 2, "49");
+  desk.User().Click(desk.Main().Label18);
+  Remove(desk, 1);
+  Remove(desk, 1);
+  desk.Desk().StorePending();
+  EXPECT_EQ(desk.DatabaseBytes(), "");
+  desk.Desk().Undo();
+  desk.Desk().Undo();
+  desk.Desk().Stop();
+  Draws expected = SampleDraws(2);
+  expected[1].b[0] = "49";
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+}
+
+TEST(BlankRow, ThatHasGoneDoesNotShiftWhatIsTakenBack) {
+  TestDesk desk(Draws{});
+  StartQuietly(desk);
+  const Draws draws = SampleDraws(4);
+  for (int i = 0; i < 3; ++i) Add(desk, draws[static_cast<std::size_t>(i)]);
+  Remove(desk, 2);
+  Remove(desk, 2);
+  desk.Desk().StorePending();
+  Add(desk, draws[3]);
+  Switch(desk);
+  desk.Desk().Undo();
+  EXPECT_EQ(desk.Desk().Undo(), "Undone: Draw of 02/01/00 removed");
+  desk.Desk().Stop();
+  EXPECT_EQ(desk.DatabaseBytes(), Encode({draws[1], draws[2]}));
+}
+
+TEST(DrawOnShow, ARowThatNoBoxCanShowIsNotMixedWithAnother) {
+  Draws draws = SampleDraws(40);
+  draws[2].b[2] = "XX";
+  TestDesk desk(draws);
+  StartQuietly(desk);
+  desk.User().Pick(desk.Main().ListView1, 5);
+  desk.User().Pick(desk.Main().ListView1, 3);
+  EXPECT_EQ(desk.TakeBoxTexts().size(), 1u);
+  EXPECT_FALSE(desk.Main().cmdedit.Enabled());
+  EXPECT_EQ(desk.Session().current_balls[0], std::stoi(draws[4].b[0]));
+  desk.User().Click(desk.Main().Command18);
+  desk.Desk().Stop();
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(Without(draws, {3})));
+}
+
+TEST(DrawOnShow, IsNoneWhereARecordCannotBeShown) {
+  Draws draws = SampleDraws(40);
+  draws[2].b[2] = "XX";
+  TestDesk desk(draws);
+  StartQuietly(desk);
+  desk.User().Pick(desk.Main().ListView1, 5);
+  desk.User().Pick(desk.Main().List7, 2);
+  EXPECT_EQ(desk.TakeBoxTexts().size(), 1u);
+  EXPECT_FALSE(desk.Main().cmdedit.Enabled());
+  EXPECT_FALSE(desk.Main().Command18.Enabled());
+}
+
+TEST(DrawOnShow, CanBeNeitherEditedNorRemovedWhileAnotherIsAdded) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.User().Click(desk.Main().cmdAdd);
+  desk.User().Pick(desk.Main().ListView1, 3);
+  EXPECT_FALSE(desk.Main().cmdedit.Enabled());
+  EXPECT_FALSE(desk.Main().Command18.Enabled());
+  desk.User().Click(desk.Main().CmdReset);
+  EXPECT_TRUE(desk.Main().cmdedit.Enabled());
+}
+
+// A removal of the only draw, and then Add, found the buffers "empty" and dropped the removal.
+TEST(DrawOnShow, TheOnlyDrawCanBeReplaced) {
+  TestDesk desk(SampleDraws(1));
+  StartQuietly(desk);
+  Remove(desk, 1);
+  Add(desk, SampleDraws(2)[1]);
+  EXPECT_TRUE(desk.boxes.shown.empty());
+  desk.Desk().Stop();
+  EXPECT_EQ(desk.DatabaseBytes(), Encode({SampleDraws(2)[1]}));
+}
+
+TEST(Places, AreNotChangedUnderAScan) {
+  TestDesk desk;
+  StartQuietly(desk);
+  Remove(desk, 3);
+  desk.User().Click(desk.Main().cmdFirst);
+  desk.pump.At(20, [&] { desk.Desk().StorePending(); });
+  desk.User().Click(desk.Main().CmdScan);
+  EXPECT_EQ(desk.Session().scan_tally, 40);
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(40)));
+  desk.Desk().StorePending();
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(Without(SampleDraws(40), {3})));
+}
+
+TEST(Places, OnAScreenAnActivationForgetsNothing) {
+  for (const int draws : {20, 40}) {
+    TestDesk desk(SampleDraws(draws));
+    desk.settings.Save("velmonte", "390", "Tips", "False");
+    desk.Start();
+    desk.Session().keeps_pending = true;
+    Remove(desk, 3);
+    Switch(desk);
+    EXPECT_EQ(desk.Main().ListView1.RowCount(), draws - 1);
+    desk.Desk().Stop();
+    EXPECT_EQ(desk.DatabaseBytes(), Encode(Without(SampleDraws(draws), {3})));
+  }
+}
+
+TEST(OwnRows, AreKeptAlsoBehindAnActivationOfASmallDatabase) {
+  TestDesk desk(SampleDraws(20));
+  StartQuietly(desk);
+  desk.WriteDatabase(Encode(SampleDraws(5)));
+  desk.boxes.answers = {base::Answer::kNo};
+  Edit(desk, "49");
+  Switch(desk);
+  desk.Desk().Stop();
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(5)));
+  EXPECT_EQ(desk.ReadFile("DataBases/UK-National-Lottery own 2000-01-01 00-00-00.dat"),
+            Encode(SampleDraws(20)));
+}
+
+// What only the desk still knew went with the press of Yes.
+TEST(OwnRows, OfAFileThatWasCutAreAnEarlierStateBeforeItIsLoaded) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.WriteDatabase("");
+  desk.boxes.answers = {base::Answer::kYes};
+  Edit(desk, "49");
+  ASSERT_EQ(desk.Desk().Earlier(),
+            std::vector<std::string>{"UK-National-Lottery 2000-01-01 00-00-00.dat"});
+  EXPECT_EQ(desk.ReadFile("DataBases/Earlier/UK-National-Lottery 2000-01-01 00-00-00.dat"),
+            Encode(SampleDraws(40)));
+}
+
+TEST(OpenDatabase, ALinkToAnEarlierStateStays) {
+  TestDesk desk;
+  const auto folder = desk.folder / "DataBases";
+  std::filesystem::create_directory(folder / "Earlier");
+  const std::string state = "UK-National-Lottery 2000-01-01 00-00-00.dat";
+  std::filesystem::rename(folder / desk.database, folder / "Earlier" / state);
+  std::filesystem::create_symlink("Earlier/" + state, folder / desk.database);
+  StartQuietly(desk);
+  desk.Desk().Stop();
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(40)));
+}
+
+// A desk that may only read made the file anew, empty, and the other one loaded that.
+TEST(OpenDatabase, WithoutTheLockNoFileIsMade) {
+  TestDesk desk;
+  base::LockAttempt other =
+      desk.host_files.TryLock((desk.folder / "DataBases/.UK-National-Lottery.lock").string());
+  ASSERT_TRUE(other.lock);
+  std::filesystem::remove(desk.folder / "DataBases" / desk.database);
+  StartQuietly(desk);
+  EXPECT_FALSE(std::filesystem::exists(desk.folder / "DataBases" / desk.database));
+  EXPECT_FALSE(desk.Main().cmdAdd.Enabled());
+  desk.Desk().Stop();
+}
+
+TEST(OpenDatabase, ANameWithAZeroByteIsNone) {
+  TestDesk desk;
+  desk.settings.Save("Velmonte", "Data", "DataBaseName",
+                     std::string("UK-National-Lottery.dat\0x", 25));
+  StartQuietly(desk);
+  EXPECT_EQ(desk.boxes.shown.front().text,
+            "Database could not be found\r\nPlease load a database from the database window");
+  EXPECT_FALSE(desk.Main().cmdAdd.Enabled());
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(40)));
+}
+
+}  // namespace
+}  // namespace test
