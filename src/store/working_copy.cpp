@@ -45,12 +45,12 @@ bool WorkingCopy::DoDataBase(const Edit& edit) {
 void WorkingCopy::SetTempAside() {
   base::FileSystem& files = place_.World().files;
   const std::string temp = place_.session.program_folder + "\\Temp.dat";
-  if (!files.IsTaken(temp)) return;
-  std::string aside = temp + ".old";
-  for (int number = 2; files.IsTaken(aside); ++number) {
-    aside = temp + ".old" + std::to_string(number);
-  }
   try {
+    if (!files.IsTaken(temp)) return;
+    std::string aside = temp + ".old";
+    for (int number = 2; files.IsTaken(aside); ++number) {
+      aside = temp + ".old" + std::to_string(number);
+    }
     files.Rename(temp, aside);
   } catch (const base::Error&) {
     // It stays where it is, unread.
