@@ -9,6 +9,8 @@
 #include <functional>
 #include <random>
 #include <string>
+#include <system_error>
+#include <utility>
 #include <vector>
 
 #include "store/draw_lists.h"
@@ -202,6 +204,168 @@ TEST_F(Fault, InAnyCallOfAStartLosesNoDraw) {
     EXPECT_GT(n, 10);
     EXPECT_GT(told, 3);
   }
+}
+
+// --- Two desks on one folder
+
+constexpr int kPlaceOfFirst = 5;
+constexpr int kPlaceOfSecond = 20;
+constexpr int kMostEdits = 60;
+
+std::string BallNumber(int edit) { return std::to_string(10 + edit % 90); }
+
+// A desk in a process of its own. It edits one draw over and over, tells the number of each edit
+// that was stored, and kills itself at one of its file calls.
+class KilledDesk {
+ public:
+  KilledDesk(TestDesk& desk, int call) {
+    if (pipe(told_) != 0) throw std::system_error(errno, std::generic_category(), "pipe");
+    process_ = fork();
+    if (process_ == 0) Work(desk, call);
+    close(told_[1]);
+  }
+  ~KilledDesk() {
+    Wait();
+    close(told_[0]);
+  }
+  KilledDesk(const KilledDesk&) = delete;
+  KilledDesk& operator=(const KilledDesk&) = delete;
+
+  bool IsGone() {
+    if (process_ > 0 && waitpid(process_, &status_, WNOHANG) == process_) process_ = 0;
+    return process_ == 0;
+  }
+  void Wait() {
+    while (process_ > 0 && waitpid(process_, &status_, 0) < 0 && errno == EINTR) {
+    }
+    process_ = 0;
+  }
+  bool WasKilled() const { return WIFSIGNALED(status_) && WTERMSIG(status_) == SIGKILL; }
+  // What it tells next: 0 that it has started, else the number of an edit. Waits for it; -1 at the
+  // end.
+  int Next() {
+    unsigned char number = 0;
+    ssize_t got = 0;
+    while ((got = read(told_[0], &number, 1)) < 0 && errno == EINTR) {
+    }
+    return got == 1 ? number : -1;
+  }
+
+ private:
+  [[noreturn]] void Work(TestDesk& desk, int call) {
+    const auto tell = [this](unsigned char number) { (void)!write(told_[1], &number, 1); };
+    SystemCalls calls;
+    calls.KillBefore(call);
+    StartQuietly(desk);
+    tell(0);
+    for (int edit = 1; edit <= kMostEdits; ++edit) {
+      desk.boxes.shown.clear();
+      EditDraw(desk, kPlaceOfSecond, BallNumber(edit));
+      if (desk.boxes.shown.empty()) tell(static_cast<unsigned char>(edit));
+    }
+    _exit(0);
+  }
+
+  int told_[2] = {-1, -1};
+  pid_t process_ = 0;
+  int status_ = 0;
+};
+
+// What one round of two desks came to.
+struct Round {
+  int stored_by_first = 0;
+  int refused_to_first = 0;
+  int stored_by_second = 0;
+  bool was_killed = false;
+};
+
+class TwoDesks : public testing::Test {
+ protected:
+  enum class Order { kSecondFirst, kFirstFirst, kAtOnce };
+
+  // The first desk edits until the second is gone, and then once more.
+  static Round Play(Order order, int call) {
+    Round round;
+    TestDesk desk;
+    // The copy has its own desk on the folder, whatever this process has open.
+    TestDesk copy;
+    const std::filesystem::path folder_of_copy = std::exchange(copy.folder, desk.folder);
+    if (order == Order::kFirstFirst) StartQuietly(desk);
+    std::string last_stored;
+    {
+      KilledDesk second(copy, call);
+      if (order == Order::kSecondFirst) second.Next();
+      if (order != Order::kFirstFirst) StartQuietly(desk);
+      bool is_last = false;
+      for (int edit = 1; !is_last; ++edit) {
+        is_last = second.IsGone();
+        const std::string ball = BallNumber(edit);
+        const bool stored = Edits(desk, ball, is_last);
+        if (stored) last_stored = ball;
+        (stored ? round.stored_by_first : round.refused_to_first)++;
+      }
+      for (int number = second.Next(); number >= 0; number = second.Next()) {
+        round.stored_by_second = number;
+      }
+      second.Wait();
+      round.was_killed = second.WasKilled();
+    }
+    copy.folder = folder_of_copy;
+    desk.Desk().Stop();
+    ExpectDraws(desk, last_stored, round.stored_by_second);
+    return round;
+  }
+
+ private:
+  // One edit; the last one is made again behind the question whether to load the file again.
+  static bool Edits(TestDesk& desk, const std::string& ball, bool is_last) {
+    EditDraw(desk, kPlaceOfFirst, ball);
+    const Texts told = desk.TakeBoxTexts();
+    for (const std::string& text : told) {
+      EXPECT_TRUE(text == kInUse || text == kChanged) << text;
+    }
+    if (told.empty()) return true;
+    if (!is_last) return false;
+    EXPECT_EQ(told, Texts{kChanged});
+    EditDraw(desk, kPlaceOfFirst, ball);
+    EXPECT_EQ(desk.TakeBoxTexts(), Texts());
+    return true;
+  }
+
+  // Every draw is there: the last edit of each desk, or the one in which the second was killed.
+  static void ExpectDraws(TestDesk& desk, const std::string& first, int second) {
+    Draws draws = SampleDraws(kDraws);
+    GiveBall(draws, kPlaceOfFirst, first);
+    Draws next = draws;
+    if (second > 0) GiveBall(draws, kPlaceOfSecond, BallNumber(second));
+    GiveBall(next, kPlaceOfSecond, BallNumber(second + 1));
+    const std::string bytes = desk.DatabaseBytes();
+    EXPECT_TRUE(bytes == Encode(draws) || bytes == Encode(next)) << bytes.size() << " bytes";
+    EXPECT_EQ(Encode(DrawsOf(desk)), bytes);
+  }
+};
+
+TEST_F(TwoDesks, OfWhichOneIsKilledLoseNoDraw) {
+  std::mt19937 random(5);
+  Round sum;
+  int killed = 0;
+  for (int round = 0; round < 60 && !HasFailure(); ++round) {
+    const auto order = static_cast<Order>(round % 3);
+    const int call = 1 + static_cast<int>(random() % 500);
+    SCOPED_TRACE("round " + std::to_string(round) + ", killed at call " + std::to_string(call));
+    const Round result = Play(order, call);
+    sum.stored_by_first += result.stored_by_first;
+    sum.refused_to_first += result.refused_to_first;
+    sum.stored_by_second += result.stored_by_second;
+    killed += result.was_killed ? 1 : 0;
+  }
+  RecordProperty("killed", killed);
+  RecordProperty("stored by the first", sum.stored_by_first);
+  RecordProperty("refused to the first", sum.refused_to_first);
+  RecordProperty("stored by the second", sum.stored_by_second);
+  EXPECT_GT(killed, 50);
+  EXPECT_GT(sum.stored_by_first, 60);
+  EXPECT_GT(sum.stored_by_second, 60);
 }
 
 }  // namespace

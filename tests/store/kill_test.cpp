@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "store/draw_lists.h"
+#include "support/desk_acts.h"
 #include "support/killed_process.h"
 #include "support/test_desk.h"
 
@@ -79,32 +80,12 @@ Files WithoutProcess(const Files& files) {
   return same;
 }
 
-void StartQuietly(TestDesk& desk) {
-  desk.settings.Save("velmonte", "390", "Tips", "False");
-  desk.Start();
-}
-
-void SaveDraw(TestDesk& desk, const store::DrawRecord& draw) {
-  desk.User().Click(desk.Main().cmdAdd);
-  for (int k = 0; k < store::kBalls; ++k) desk.Main().BallBox(k).SetText(draw.Ball(k));
-  desk.Main().TxtBall07.SetText(draw.day);
-  desk.Main().txtDate.SetText(draw.date);
-  desk.User().Click(desk.Main().cmdSave);
-}
-
-// Gives the draw (0 is the first) another sixth ball.
-void EditDraw(TestDesk& desk, int draw, const std::string& ball) {
-  desk.User().Pick(desk.Main().List7, draw);
-  desk.User().Click(desk.Main().cmdedit);
-  desk.Main().TxtBall06.SetText(ball);
-  desk.User().Click(desk.Main().cmdedit);
-}
-
 // One way to change the database, and the draws before and after it.
 struct Change {
   std::vector<store::DrawRecord> old_draws;
   std::vector<store::DrawRecord> new_draws;
   std::function<void(TestDesk&)> make;
+  std::vector<store::DrawRecord> start_from = old_draws;
   std::function<void(TestDesk&)> before = [](TestDesk&) {};
 };
 
@@ -119,7 +100,7 @@ Change ASave(int count) {
 Change AnEdit(int count) {
   const int edited = count / 2;
   Change change{SampleDraws(count), SampleDraws(count),
-                [edited](TestDesk& desk) { EditDraw(desk, edited, "99"); }};
+                [edited](TestDesk& desk) { EditDraw(desk, edited + 1, "99"); }};
   change.new_draws[static_cast<std::size_t>(edited)].b[5] = "99";
   return change;
 }
@@ -129,12 +110,26 @@ Change AClose(int count) {
   const int removed = count / 3;
   Change change{SampleDraws(count), SampleDraws(count),
                 [](TestDesk& desk) { desk.User().Close(desk.Main()); }};
-  change.before = [removed](TestDesk& desk) {
-    desk.User().Pick(desk.Main().ListView1, removed + 1);
-    desk.User().Click(desk.Main().Command18);
-  };
+  change.before = [removed](TestDesk& desk) { RemoveRow(desk, removed + 1); };
   change.new_draws.erase(change.new_draws.begin() + removed);
   return change;
+}
+
+// The same, while the window stays open.
+Change AStoring(int count) {
+  Change change = AClose(count);
+  change.make = [](TestDesk& desk) { desk.Desk().StorePending(); };
+  return change;
+}
+
+// An edit is taken back.
+Change AnUndo(int count) {
+  const Change edit = AnEdit(count);
+  return {.old_draws = edit.new_draws,
+          .new_draws = edit.old_draws,
+          .make = [](TestDesk& desk) { desk.Desk().Undo(); },
+          .start_from = edit.old_draws,
+          .before = edit.make};
 }
 
 // The draws of the database of a desk, read by a process that has just begun.
@@ -178,7 +173,7 @@ void ExpectWorksOn(TestDesk& desk, std::vector<store::DrawRecord> draws) {
   SaveDraw(desk, draws.back());
   EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>());
   ASSERT_TRUE(desk.DatabaseBytes() == Encode(draws)) << "a save that follows";
-  EditDraw(desk, 9, "98");
+  EditDraw(desk, 10, "98");
   EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>());
   draws[9].b[5] = "98";
   TestDesk again;
@@ -189,7 +184,7 @@ void ExpectWorksOn(TestDesk& desk, std::vector<store::DrawRecord> draws) {
 class Kill : public testing::Test {
  protected:
   void KillEverywhere(const Change& change) {
-    TestDesk desk(change.old_draws);
+    TestDesk desk(change.start_from);
     StartQuietly(desk);
     change.before(desk);
     const Files files = FilesIn(desk);
@@ -256,6 +251,52 @@ TEST_F(Kill, ACloseLosesNoDraw) {
   KillEverywhere(AClose(kDraws));
   EXPECT_TRUE(saw_old_ && saw_new_);
   EXPECT_TRUE(saw_beside_);
+}
+
+TEST_F(Kill, StorePendingLosesNoDraw) {
+  KillEverywhere(AStoring(kFewDraws));
+  EXPECT_TRUE(saw_old_ && saw_new_);
+  EXPECT_TRUE(saw_earlier_ && saw_beside_);
+}
+
+TEST_F(Kill, AnUndoLosesNoDraw) {
+  KillEverywhere(AnUndo(kFewDraws));
+  EXPECT_TRUE(saw_old_ && saw_new_);
+  EXPECT_TRUE(saw_beside_);
+}
+
+// A start removes the second name of the database that an earlier kill left.
+TEST_F(Kill, AStartLosesNoDraw) {
+  const auto draws = SampleDraws(kFewDraws);
+  const std::string state = "DataBases/Earlier/UK-National-Lottery 2005-12-05 14-30-00.dat";
+  bool removed = false;
+  for (int moment = 0; moment < kMostMoments; ++moment) {
+    SCOPED_TRACE("killed at moment " + std::to_string(moment));
+    TestDesk desk(draws);
+    std::filesystem::create_directory(desk.folder / "DataBases" / "Earlier");
+    std::filesystem::create_hard_link(desk.folder / kDatabase, desk.folder / state);
+    const Ending ending = KillAtMoment(
+        moment, [] {},
+        [&] {
+          StartQuietly(desk);
+          return desk.boxes.shown.empty();
+        });
+    ASSERT_NE(ending, Ending::kFailed);
+    removed |= !std::filesystem::exists(desk.folder / state);
+    EXPECT_EQ(desk.DatabaseBytes(), Encode(draws));
+    StartQuietly(desk);
+    ExpectBegins(desk, draws);
+    ExpectWorksOn(desk, draws);
+    EXPECT_FALSE(std::filesystem::exists(desk.folder / state));
+    if (HasFailure()) return;
+    if (ending == Ending::kDone) {
+      RecordProperty("moments", moment);
+      EXPECT_GT(moment, 20);
+      EXPECT_TRUE(removed);
+      return;
+    }
+  }
+  FAIL() << "more file calls than anything should need";
 }
 
 // Makes the change on this desk in a process that dies as soon as it writes beyond an offset.
