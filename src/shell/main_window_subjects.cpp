@@ -1,5 +1,7 @@
 #include "shell/main_window_subjects.h"
 
+#include "store/draw_on_show.h"
+
 namespace shell {
 
 MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& desktop,
@@ -39,6 +41,10 @@ MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& d
 void MainWindowSubjects::Form_Load() {
   place_.session.data_base_changed = false;
   place_.session.shown_place = 0;
+  store::CloseRowEditor(place_.session, *this);
+  // Nothing can be done to a draw before the first one is on show.
+  cmdedit.SetEnabled(false);
+  Command18.SetEnabled(false);
   PlaceLabels();
   place_.session.main_window_loaded = true;
   ListView1.Clear();

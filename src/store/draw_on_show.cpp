@@ -28,10 +28,9 @@ void SetDrawOnShow(Session& session, MainWindow& window, int place) {
 void EnableChanges(Session& session, MainWindow& window) {
   const bool complete = session.database.IsComplete();
   const bool in_table = IsInTable(session, window);
-  const bool adding = window.cmdSave.Enabled();
   const bool blank = session.shown_place == OpenDatabase::kBlankPlace;
-  window.cmdedit.SetEnabled(in_table && !adding && !blank);
-  window.Command18.SetEnabled(in_table && !adding && !IsEditing(window));
+  window.cmdedit.SetEnabled(in_table && !blank);
+  window.Command18.SetEnabled(in_table && !IsEditing(window));
   if (!complete) window.cmdAdd.SetEnabled(false);
   for (base::Button* button : {&window.cmdAdd, &window.cmdedit, &window.Command18}) {
     button->SetToolTipText(complete ? "" : kNotComplete);

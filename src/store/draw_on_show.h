@@ -19,8 +19,8 @@ inline constexpr const char* kNotComplete =
 void SetDrawOnShow(Session& session, MainWindow& window, int place);
 
 // Enables what may change draws, and says in a tip why where it may not: Edit with a draw on show
-// that is in the table, Remove the same (also of the blank row that an empty database has), neither
-// while a draw is added, Remove not while one is edited, Add in a database that is known
+// that is in the table, so not while a new one stands in the boxes; Remove the same unless one is
+// edited, also for the blank row that an empty database has; Add in a database that is known
 // whole.
 void EnableChanges(Session& session, MainWindow& window);
 

@@ -306,8 +306,20 @@ void Entry::cmdedit_Click() {
   EnableChanges(place_.session, window);
 }
 
+// A draw was looked at while one was to be added, and is corrected now: one Save is enough.
+void Entry::LeaveAdding() {
+  MainWindow& window = place_.window;
+  for (base::Button* button : {&window.cmdSave, &window.cmdClear, &window.CmdReset}) {
+    button->SetEnabled(false);
+  }
+  browsing_.EnableTheButtons(true);
+  window.CmdScan.SetEnabled(true);
+  QNDLabels();
+}
+
 void Entry::StartEdit() {
   MainWindow& window = place_.window;
+  if (window.cmdSave.Enabled()) LeaveAdding();
   window.cmdedit.SetCaption("Save");
   window.tbar3.SetEnabled(true);
   window.TxtBall01.SetEnabled(true);

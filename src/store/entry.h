@@ -57,6 +57,7 @@ class Entry {
   void PutBack(const Typed& typed);
 
   void EnableBoxes();
+  void LeaveAdding();
   void StartEdit();
   void SaveEdit();
   void ReplaceEditedLine();

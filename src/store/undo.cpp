@@ -41,7 +41,7 @@ bool Undo::Apply(const ChangeLog::Undoing& undoing) {
 // A draw that is being typed stays in the boxes.
 void Undo::ShowDraw(int place) {
   base::ListView& table = place_.window.ListView1;
-  const bool typing = place_.window.cmdSave.Enabled();
+  const bool typing = place_.session.shown_place == 0 && place_.window.cmdSave.Enabled();
   const int row = table.RowWithKey(place);
   table.Select(row > 0 ? row : table.RowCount());
   table.EnsureVisible(table.SelectedIndex());

@@ -14,7 +14,7 @@ constexpr std::size_t kBalls = 7;
 
 // The procedures that change draws. They fail only where the disk does.
 constexpr std::array<const char*, 9> kStoring{
-    "SaveNewRecord", "DoDataBase",    "Form_Unload",     "StorePending",   "Undo",
+    "SaveNewRecord", "DoDataBase",    "Form_Unload",     "StorePending", "Undo",
     "cmdSave_Click", "cmdedit_Click", "Command18_Click", "Label18_Click"};
 
 Draws WithoutBlanks(Draws draws) {

@@ -79,6 +79,11 @@ void WatchedDisk::Rename(const std::string& path, const std::string& new_path) {
   watcher_.Renamed(path, new_path);
 }
 
+void WatchedDisk::MakeFolder(const std::string& path) {
+  Count();
+  disk_.MakeFolder(path);
+}
+
 void WatchedDisk::Keep(const std::string& path, const std::string& second_path) {
   watcher_.BeforeWrite(path, false);
   Count();

@@ -55,6 +55,7 @@ class WatchedDisk : public base::FileSystem {
   void Replace(const std::string& path, std::string_view bytes) override;
   void Remove(const std::string& path) override;
   void Rename(const std::string& path, const std::string& new_path) override;
+  void MakeFolder(const std::string& path) override;
   void Keep(const std::string& path, const std::string& second_path) override;
   base::LockAttempt TryLock(const std::string& path) override { return disk_.TryLock(path); }
   std::vector<std::string> List(const std::string& folder, const std::string& ending) override {
