@@ -38,7 +38,8 @@ bool Guard::AskToWriteAgain() {
                " is no longer in its folder. Write the draws that the desk holds there again?"));
   database.keeps_own_rows = answer != base::Answer::kYes;
   if (database.keeps_own_rows) return false;
-  database.WriteAgain();
+  // While the person thought about it, it may have come back.
+  if (database.Compare() == OpenDatabase::Standing::kGone) database.WriteAgain();
   return true;
 }
 
@@ -58,14 +59,12 @@ bool Guard::MayWrite() {
     return false;
   }
   if (!IsMine()) return false;
-  switch (place_.session.database.Compare()) {
-    case OpenDatabase::Standing::kAsRead:
-      return true;
-    case OpenDatabase::Standing::kGone:
-      return AskToWriteAgain();
-    case OpenDatabase::Standing::kChanged:
-      break;
+  OpenDatabase::Standing standing = place_.session.database.Compare();
+  while (standing == OpenDatabase::Standing::kGone) {
+    if (!AskToWriteAgain()) return false;
+    standing = place_.session.database.Compare();
   }
+  if (standing == OpenDatabase::Standing::kAsRead) return true;
   if (AskToLoadAgain()) LoadAgain();
   return false;
 }
@@ -73,11 +72,14 @@ bool Guard::MayWrite() {
 bool Guard::MayWriteAtClose() {
   OpenDatabase& database = place_.session.database;
   if (!database.IsComplete() || !IsMine()) return false;
-  const OpenDatabase::Standing standing = database.Compare();
+  OpenDatabase::Standing standing = database.Compare();
+  while (standing == OpenDatabase::Standing::kGone && !database.keeps_own_rows) {
+    if (!AskToWriteAgain()) return false;
+    standing = database.Compare();
+  }
   if (standing == OpenDatabase::Standing::kAsRead) return true;
   if (database.keeps_own_rows) return false;  // the person was asked before
-  if (standing == OpenDatabase::Standing::kGone) return AskToWriteAgain();
-  AskToLoadAgain();  // yes: what stands in the file is what is wanted
+  AskToLoadAgain();                           // yes: what stands in the file is what is wanted
   return false;
 }
 

@@ -141,7 +141,12 @@ void OpenDatabase::IndexBytes() {
 OpenDatabase::Standing OpenDatabase::Compare() {
   const std::optional<base::FileIdentity> now = files_.Identify(path_);
   if (!now) return Standing::kGone;
-  if (files_.ReadAll(path_) != file_.Bytes()) return Standing::kChanged;
+  try {
+    if (files_.ReadAll(path_) != file_.Bytes()) return Standing::kChanged;
+  } catch (const base::Error& error) {
+    if (error.Number() == base::kFileNotFound) return Standing::kGone;  // a moment ago
+    throw;
+  }
   if (!file_.IsTheFile(*now)) file_.Reopen(path_);
   return Standing::kAsRead;
 }

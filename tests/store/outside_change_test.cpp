@@ -473,6 +473,28 @@ TEST_F(OutsideChange, OwnRowsOfTheSameSecondGetANumber) {
             Encode(draws));
 }
 
+// The person answered yes, but meanwhile the file was there again.
+TEST_F(OutsideChange, ThatBringsTheFileBackWhileTheDeskAsksIsNotWrittenOver) {
+  for (const Way* way : {&kEdit, &kAdd, &kRowEdit, &kRemoval, &kStorePending}) {
+    for (const bool same : {false, true}) {
+      SCOPED_TRACE(std::string(way->name) + (same ? ", the same bytes" : ", other bytes"));
+      TestDesk desk;
+      StartQuietly(desk);
+      way->prepare(desk);
+      const std::string back = Encode(SampleDraws(same ? kDraws : 39));
+      std::filesystem::remove(PathOf(desk));
+      desk.boxes.on_ask = [&] {
+        if (desk.boxes.shown.back().text == kGone) Write(PathOf(desk), back);
+      };
+      way->act(desk);
+      EXPECT_EQ(desk.TakeBoxTexts(), same ? Texts{kGone} : (Texts{kGone, kChanged}));
+      desk.Desk().Stop();
+      EXPECT_EQ(desk.TakeBoxTexts(), Texts());
+      EXPECT_EQ(desk.DatabaseBytes(), same ? Encode(DrawsAfter(*way)) : back);
+    }
+  }
+}
+
 // A folder or a pipe that took the file's place is nothing to write to.
 TEST_F(OutsideChange, WhatIsNoFileStays) {
   TestDesk desk;
