@@ -146,8 +146,6 @@ void Browsing::FillFromListView() {
   Trapped(place_.reporter, "FillFromListView", [&] {
     if (place_.window.ListView1.RowCount() > 0) {
       ShowSelectedRow();
-    } else if (!place_.session.database.pending.empty()) {
-      SetDrawOnShow(place_.session, place_.window, 0);  // every draw was removed by hand
     } else {
       place_.Ask(kEmptyBuffers);
       neighbours_.ReloadBuffers();

@@ -33,8 +33,7 @@ class Browsing {
   void MoveLast();
   void EnableTheButtons(bool on);
 
-  // Shows the table's selected row in the boxes; an empty table loads the buffers again, unless its
-  // rows were removed by hand.
+  // Shows the table's selected row in the boxes; an empty table loads the buffers again.
   void FillFromListView();
   // The same for a table with rows, its errors left to the caller. Error 13 or 6 for a ball that is
   // no number from 0 to 255.

@@ -116,7 +116,7 @@ std::string FreeState(base::FileSystem& files, const std::string& path, const ba
 
 std::string KeepEarlierState(base::FileSystem& files, const std::string& path,
                              const base::DateTime& now) {
-  const std::string kept = FreeState(files, path, now);
+  std::string kept = FreeState(files, path, now);
   files.MakeFolder(FolderOfStates(path));
   files.Keep(path, kept);
   return kept;

@@ -123,22 +123,28 @@ class Fault : public testing::Test {
         return n - 1;
       }
       SCOPED_TRACE(std::string(operation.name) + ", call " + std::to_string(n) + ", " + call);
-      Judge(desk, old_draws, new_draws, states);
+      const Draws draws = Judge(desk, old_draws, new_draws, states);
+      if (error == EIO) ExpectWorksOn(desk, draws);
     }
     return 0;
   }
 
-  // What was told is not done, and what was not told is done, now and later.
-  void Judge(TestDesk& desk, const Draws& old_draws, const Draws& new_draws, std::size_t states) {
+  // What was told is not done, and what was not told is done. The draws that are there.
+  Draws Judge(TestDesk& desk, const Draws& old_draws, const Draws& new_draws, std::size_t states) {
     const bool told = !desk.TakeBoxTexts().empty();
     (told ? told_ : done_)++;
-    Draws draws = told ? old_draws : new_draws;
+    const Draws& draws = told ? old_draws : new_draws;
     EXPECT_EQ(Encode(DrawsOf(desk)), Encode(draws));
     for (const std::string& name : NamesIn(desk.folder / "DataBases")) {
       EXPECT_EQ(name.find(".new~"), std::string::npos) << name;
     }
     const std::size_t kept = NamesIn(desk.folder / "DataBases" / "Earlier").size();
     EXPECT_TRUE(!told || kept == states) << kept << " earlier states";
+    return draws;
+  }
+
+  // What failed does no harm to the change that follows.
+  static void ExpectWorksOn(TestDesk& desk, Draws draws) {
     if (!desk.Desk().Main()) return;
     EXPECT_EQ(Encode(DrawsOnShow(desk)), Encode(draws));
     EditDraw(desk, 20, "97");
@@ -349,7 +355,7 @@ TEST_F(TwoDesks, OfWhichOneIsKilledLoseNoDraw) {
   std::mt19937 random(5);
   Round sum;
   int killed = 0;
-  for (int round = 0; round < 60 && !HasFailure(); ++round) {
+  for (int round = 0; round < 45 && !HasFailure(); ++round) {
     const auto order = static_cast<Order>(round % 3);
     const int call = 1 + static_cast<int>(random() % 500);
     SCOPED_TRACE("round " + std::to_string(round) + ", killed at call " + std::to_string(call));
@@ -363,9 +369,9 @@ TEST_F(TwoDesks, OfWhichOneIsKilledLoseNoDraw) {
   RecordProperty("stored by the first", sum.stored_by_first);
   RecordProperty("refused to the first", sum.refused_to_first);
   RecordProperty("stored by the second", sum.stored_by_second);
-  EXPECT_GT(killed, 50);
-  EXPECT_GT(sum.stored_by_first, 60);
-  EXPECT_GT(sum.stored_by_second, 60);
+  EXPECT_GT(killed, 40);
+  EXPECT_GT(sum.stored_by_first, 45);
+  EXPECT_GT(sum.stored_by_second, 45);
 }
 
 }  // namespace

@@ -229,17 +229,6 @@ TEST(DrawOnShow, AnEditOfADrawLookedAtWhileAddingEndsTheAdding) {
   EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
 }
 
-// A removal of the only draw, and then Add, found the buffers "empty" and dropped the removal.
-TEST(DrawOnShow, TheOnlyDrawCanBeReplaced) {
-  TestDesk desk(SampleDraws(1));
-  StartQuietly(desk);
-  Remove(desk, 1);
-  Add(desk, SampleDraws(2)[1]);
-  EXPECT_TRUE(desk.boxes.shown.empty());
-  desk.Desk().Stop();
-  EXPECT_EQ(desk.DatabaseBytes(), Encode({SampleDraws(2)[1]}));
-}
-
 TEST(Places, AreNotChangedUnderAScan) {
   TestDesk desk;
   StartQuietly(desk);

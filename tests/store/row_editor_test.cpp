@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/desk_acts.h"
 #include "support/test_desk.h"
 
 namespace test {
@@ -146,6 +147,27 @@ TEST(RowEditor, TheLastRowLeftCanBeRemoved) {
   EXPECT_FALSE(desk.Main().cmdedit.Enabled());
   desk.Desk().Stop();
   EXPECT_EQ(desk.DatabaseBytes(), "");
+}
+
+// With an empty table the desk loads the file anew; the draw that was typed then was refused.
+TEST(RowEditor, AfterTheLastRowADrawCanBeAdded) {
+  for (const int count : {0, 1, 40}) {
+    SCOPED_TRACE(std::to_string(count) + " draws");
+    TestDesk desk(SampleDraws(count));
+    StartQuietly(desk);
+    while (desk.Main().ListView1.RowCount() > 0) desk.User().Click(desk.Main().Command18);
+    SaveDraw(desk, Draw({1, 2, 3, 4, 5, 6, 7}));
+    EXPECT_EQ(desk.TakeBoxTexts(),
+              std::vector<std::string>{
+                  "An error has occured loading the draw results in to QND's buffers\r\n"
+                  "QND will now attempt to reload the buffers"});
+    auto expected = SampleDraws(count);
+    expected.push_back(Draw({1, 2, 3, 4, 5, 6, 7}));
+    EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+    desk.Desk().Stop();
+    EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>());
+    EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+  }
 }
 
 }  // namespace

@@ -134,6 +134,40 @@ TEST_F(Undo, OfADatabasesFirstDraw) {
   ExpectFile({Added()});
 }
 
+// The blank row of a database that began empty went at the activation, and every draw stood one
+// place further up than the log of changes had it: another one was removed.
+TEST_F(Undo, KnowsEachDrawWhenTheBlankRowIsGone) {
+  desk_.WriteDatabase("");
+  StartQuietly(desk_);
+  const auto draws = SampleDraws(3);
+  for (const store::DrawRecord& draw : draws) SaveDraw(desk_, draw);
+  RemoveRow(desk_, 2);
+  RemoveRow(desk_, 2);
+  desk_.Desk().StorePending();
+  ExpectFile({draws[2]});
+  desk_.User().Switch(desk_.Main());
+  EXPECT_EQ(TakeBack(), "Undone: Draw of 02/01/00 removed");
+  ExpectFile(draws);
+  EXPECT_EQ(desk_.Main().txtDate.Text(), draws[1].date);
+  desk_.Desk().StorePending();
+  ExpectFile({draws[1], draws[2]});
+}
+
+TEST_F(Undo, KnowsEachDrawWhenTheBlankRowHasCome) {
+  const auto draws = SampleDraws(2);
+  desk_.WriteDatabase(Encode(draws));
+  StartQuietly(desk_);
+  RemoveRow(desk_, 1);
+  RemoveRow(desk_, 1);
+  desk_.Desk().StorePending();
+  ExpectFile({});
+  EXPECT_EQ(TakeBack(), "Undone: Draw of 02/01/00 removed");
+  ExpectFile(draws);
+  EXPECT_EQ(desk_.Main().txtDate.Text(), draws[1].date);
+  desk_.Desk().StorePending();
+  ExpectFile({draws[1]});
+}
+
 // A torn record at the end was made whole by the save; it is torn again, byte for byte.
 TEST_F(Undo, OfADrawBehindATornOne) {
   const std::string whole = Encode(odd_);
@@ -202,6 +236,7 @@ class RandomChanges {
     for (int step = 0; step < steps && !testing::Test::HasFailure(); ++step) {
       SCOPED_TRACE("step " + std::to_string(step));
       PlayOne();
+      ExpectDrawOfTheBoxes();
       EXPECT_EQ(desk_.TakeBoxTexts(), Texts());
     }
     while (!befores_.empty() && !testing::Test::HasFailure()) TakeBack();
@@ -211,8 +246,34 @@ class RandomChanges {
 
  private:
   int Any(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
+  int AnyRow() { return Table().RowCount() == 0 ? 0 : 1 + Any(Table().RowCount()); }
   std::string AnyBall() { return std::to_string(10 + Any(89)); }
   base::ListView& Table() { return desk_.Main().ListView1; }
+  bool IsBlank(int row) { return Table().Key(row) == store::OpenDatabase::kBlankPlace; }
+
+  // The rows but for the blank one that an empty database has.
+  Rows DrawRows() {
+    Rows rows;
+    for (int row = 1; row <= Table().RowCount(); ++row) {
+      if (!IsBlank(row)) rows.push_back(Table().Row(row));
+    }
+    return rows;
+  }
+
+  // What an edit would replace is the draw that stands in the boxes; each has its own date.
+  void ExpectDrawOfTheBoxes() {
+    if (!desk_.Main().cmdedit.Enabled()) return;
+    const int row = Table().RowWithKey(desk_.Session().shown_place);
+    EXPECT_EQ(Table().Cell(row, 7), desk_.Main().txtDate.Text());
+  }
+
+  std::string NextDate() {
+    const auto two_digits = [](int number) {
+      return (number < 10 ? "0" : "") + std::to_string(number);
+    };
+    const int number = saved_++;
+    return two_digits(number % 28 + 1) + "/" + two_digits(number / 28 % 12 + 1) + "/05";
+  }
 
   void PlayOne() {
     switch (Any(10)) {
@@ -234,17 +295,18 @@ class RandomChanges {
     }
   }
 
-  Before Now(bool is_pending) {
-    return {desk_.DatabaseBytes(), Table().Rows(), is_pending, stored_};
-  }
+  Before Now(bool is_pending) { return {desk_.DatabaseBytes(), DrawRows(), is_pending, stored_}; }
 
   void Save() {
     befores_.push_back(Now(false));
-    SaveDraw(desk_, Draw({1, 2, 3, 4, 5, 10 + Any(89), Any(50)}));
+    SaveDraw(desk_, Draw({1, 2, 3, 4, 5, 10 + Any(89), Any(50)}, "Sa", NextDate()));
   }
 
   void Edit() {
-    desk_.User().Pick(desk_.Main().List7, Any(desk_.Main().List7.ListCount()));
+    base::ListBox& lines = desk_.Main().List7;
+    const int line = Any(lines.ListCount());
+    if (lines.Key(line) == store::OpenDatabase::kBlankPlace) return;
+    desk_.User().Pick(lines, line);
     if (!desk_.Main().cmdedit.Enabled()) return;  // it was removed
     Before before = Now(false);
     desk_.User().Click(desk_.Main().cmdedit);
@@ -252,28 +314,31 @@ class RandomChanges {
     desk_.User().Click(desk_.Main().cmdedit);
     // Stored as it lay in the file, it only gives up what waited in the table.
     before.is_pending = desk_.DatabaseBytes() == before.bytes;
-    if (!before.is_pending || Table().Rows() != before.rows) befores_.push_back(before);
+    if (!before.is_pending || DrawRows() != before.rows) befores_.push_back(before);
   }
 
   void ChangeRow() {
-    const int row = 1 + Any(Table().RowCount());
+    const int row = AnyRow();
     const std::string ball = AnyBall();
-    if (Table().Cell(row, 5) == ball) return;
+    if (row == 0 || IsBlank(row) || Table().Cell(row, 5) == ball) return;
     befores_.push_back(Now(true));
     EditRow(desk_, row, ball);
   }
 
   void Remove() {
-    if (Table().RowCount() < 2) return;
-    befores_.push_back(Now(true));
-    RemoveRow(desk_, 1 + Any(Table().RowCount()));
+    const int row = AnyRow();
+    const bool is_last = Table().RowCount() == 1;
+    if (row == 0 || (is_last && IsBlank(row))) return;
+    if (!IsBlank(row)) befores_.push_back(Now(true));
+    RemoveRow(desk_, row);
+    if (is_last) StorePending();
   }
 
   void StorePending() {
     const std::string before = desk_.DatabaseBytes();
-    const Rows rows = Table().Rows();
+    const Rows rows = DrawRows();
     desk_.Desk().StorePending();
-    EXPECT_EQ(Table().Rows(), rows);
+    EXPECT_EQ(DrawRows(), rows);
     EXPECT_EQ(RowsOf(desk_.DatabaseBytes()), rows);
     if (desk_.DatabaseBytes() != before) ++stored_;
   }
@@ -283,7 +348,7 @@ class RandomChanges {
     const bool forgets = desk_.Main().List7.ListCount() < 30;
     desk_.User().Switch(desk_.Main());
     if (!forgets) return;
-    EXPECT_EQ(Table().Rows(), RowsOf(desk_.DatabaseBytes()));
+    EXPECT_EQ(DrawRows(), RowsOf(desk_.DatabaseBytes()));
     std::erase_if(befores_, [this](const Before& before) {
       return before.is_pending && before.stored == stored_;
     });
@@ -301,7 +366,7 @@ class RandomChanges {
     befores_.pop_back();
     EXPECT_TRUE(desk_.Desk().Undo().starts_with("Undone: Draw of "));
     EXPECT_EQ(desk_.DatabaseBytes(), before.bytes);
-    EXPECT_EQ(Table().Rows(), before.rows);
+    EXPECT_EQ(DrawRows(), before.rows);
     stored_ = before.stored;
     ++taken_back_;
   }
@@ -310,25 +375,26 @@ class RandomChanges {
   std::mt19937 random_;
   std::vector<Before> befores_;
   int stored_ = 0;
+  int saved_ = 0;
   int taken_back_ = 0;
 };
 
 TEST_F(Undo, GivesEveryStateBackByteForByte) {
   int taken_back = 0;
-  for (const int count : {3, 28, 40}) {
-    for (unsigned seed = 1; seed <= 4; ++seed) {
+  for (const int count : {0, 3, 28, 40}) {
+    for (unsigned seed = 1; seed <= 2; ++seed) {
       SCOPED_TRACE(std::to_string(count) + " draws, seed " + std::to_string(seed));
       auto draws = SampleDraws(count);
       for (store::DrawRecord& draw : draws) draw.spare = 7;
       TestDesk desk(draws);
       StartQuietly(desk);
       RandomChanges changes(desk, seed);
-      changes.Play(100);
+      changes.Play(60);
       if (HasFailure()) return;
       taken_back += changes.TakenBack();
     }
   }
-  EXPECT_GT(taken_back, 300);
+  EXPECT_GT(taken_back, 150);
 }
 
 // --- Refusals

@@ -3,29 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "base/language/error.h"
+#include "support/desk_acts.h"
 #include "support/failing_disk.h"
 #include "support/test_desk.h"
 
 namespace test {
 namespace {
-
-void StartQuietly(TestDesk& desk) {
-  desk.settings.Save("velmonte", "390", "Tips", "False");
-  desk.Start();
-}
-
-// Gives the draw (0 is the first) another sixth ball.
-void EditDraw(TestDesk& desk, int draw, const std::string& ball) {
-  desk.User().Pick(desk.Main().List7, draw);
-  desk.User().Click(desk.Main().cmdedit);
-  desk.Main().TxtBall06.SetText(ball);
-  desk.User().Click(desk.Main().cmdedit);
-}
-
-void RemoveDraw(TestDesk& desk, int row) {
-  desk.User().Pick(desk.Main().ListView1, row);
-  desk.User().Click(desk.Main().Command18);
-}
 
 std::vector<store::DrawRecord> Without(std::vector<store::DrawRecord> draws, int place) {
   draws.erase(draws.begin() + (place - 1));
@@ -35,7 +18,7 @@ std::vector<store::DrawRecord> Without(std::vector<store::DrawRecord> draws, int
 TEST(WorkingCopy, AnEditLeavesTheIndexAndTheListsInStep) {
   TestDesk desk;
   StartQuietly(desk);
-  EditDraw(desk, 1, "49");
+  EditDraw(desk, 2, "49");
   auto expected = SampleDraws(40);
   expected[1].b[5] = "49";
   EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
@@ -66,7 +49,7 @@ TEST(WorkingCopy, ATempDatThatIsFoundIsSetAside) {
   const std::string found = Encode(SampleDraws(2));
   desk.host_files.Replace(desk.folder.string() + "/Temp.dat", found);
   desk.host_files.Replace(desk.folder.string() + "/Temp.dat.old", "old");
-  EditDraw(desk, 1, "49");
+  EditDraw(desk, 2, "49");
   auto expected = SampleDraws(40);
   expected[1].b[5] = "49";
   EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
@@ -80,7 +63,7 @@ TEST(WorkingCopy, ATempDatThatIsALinkIsNotFollowed) {
   StartQuietly(desk);
   desk.host_files.Replace(desk.folder.string() + "/victim", "precious");
   std::filesystem::create_symlink("victim", desk.folder / "Temp.dat");
-  EditDraw(desk, 1, "49");
+  EditDraw(desk, 2, "49");
   EXPECT_EQ(desk.ReadFile("victim"), "precious");
   EXPECT_TRUE(std::filesystem::is_symlink(desk.folder / "Temp.dat.old"));
 }
@@ -88,7 +71,7 @@ TEST(WorkingCopy, ATempDatThatIsALinkIsNotFollowed) {
 TEST(WorkingCopy, CloseRewritesFromTheTableAfterAChange) {
   TestDesk desk;
   desk.Start();
-  RemoveDraw(desk, 2);
+  RemoveRow(desk, 2);
   desk.User().Close(desk.Main());
   EXPECT_EQ(desk.DatabaseBytes(), Encode(Without(SampleDraws(40), 2)));
   EXPECT_EQ(desk.Session().database.Length(), 39 * 44);
@@ -105,7 +88,7 @@ TEST(WorkingCopy, CloseRewritesFromTheTableAfterAChange) {
 TEST(WorkingCopy, CloseWithoutAChangeWritesNothing) {
   TestDesk desk;
   desk.Start();
-  RemoveDraw(desk, 2);
+  RemoveRow(desk, 2);
   desk.Session().data_base_changed = false;
   desk.User().Close(desk.Main());
   EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(40)));
@@ -115,7 +98,7 @@ TEST(WorkingCopy, CloseWithoutAChangeWritesNothing) {
 TEST(WorkingCopy, CloseNeverWritesFewerDrawsThanWereRemovedByHand) {
   TestDesk desk;
   StartQuietly(desk);
-  RemoveDraw(desk, 2);
+  RemoveRow(desk, 2);
   desk.Main().ListView1.RemoveRow(7);
   desk.Desk().Stop();
   EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(40)));
@@ -124,7 +107,7 @@ TEST(WorkingCopy, CloseNeverWritesFewerDrawsThanWereRemovedByHand) {
 TEST(WorkingCopy, CloseAfterASwitchWritesNothing) {
   TestDesk desk;
   desk.Start();
-  RemoveDraw(desk, 2);
+  RemoveRow(desk, 2);
   desk.User().Switch(desk.Main());
   desk.User().Close(desk.Main());
   EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(40)));
@@ -164,7 +147,7 @@ void ExpectNoDrawLost(const std::function<void(TestDesk&)>& rewrite, const std::
 TEST(WorkingCopy, AnEditLosesNoDrawWhereverTheDiskFails) {
   auto edited = SampleDraws(40);
   edited[1].b[5] = "49";
-  ExpectNoDrawLost([](TestDesk& desk) { EditDraw(desk, 1, "49"); }, Encode(SampleDraws(40)),
+  ExpectNoDrawLost([](TestDesk& desk) { EditDraw(desk, 2, "49"); }, Encode(SampleDraws(40)),
                    Encode(edited));
 }
 
@@ -173,7 +156,7 @@ TEST(WorkingCopy, ACloseLosesNoDrawWhereverTheDiskFails) {
   shorter.erase(shorter.begin() + 1);
   ExpectNoDrawLost(
       [](TestDesk& desk) {
-        RemoveDraw(desk, 2);
+        RemoveRow(desk, 2);
         desk.User().Close(desk.Main());
       },
       Encode(SampleDraws(40)), Encode(shorter));
@@ -184,7 +167,7 @@ TEST(WorkingCopy, TakesARowThatTheBoxesCannotShowAsItStands) {
   TestDesk desk;
   desk.Start();
   desk.Main().ListView1.SetCell(9, 0, "01x");
-  RemoveDraw(desk, 2);
+  RemoveRow(desk, 2);
   desk.Desk().Stop();
   auto expected = SampleDraws(40);
   expected[8].b[0] = "01x";
@@ -198,12 +181,12 @@ TEST(WorkingCopy, TakesARowThatTheBoxesCannotShowAsItStands) {
 TEST(WorkingCopy, ASmallDatabaseCanBeActivatedAfterARewrite) {
   TestDesk desk(SampleDraws(10));
   StartQuietly(desk);
-  EditDraw(desk, 1, "49");
+  EditDraw(desk, 2, "49");
   desk.User().Switch(desk.Main());
   EXPECT_TRUE(desk.boxes.shown.empty());
   EXPECT_EQ(desk.Main().ListView1.RowCount(), 10);
   EXPECT_TRUE(desk.Main().cmdedit.Enabled());
-  EditDraw(desk, 2, "49");
+  EditDraw(desk, 3, "49");
   auto expected = SampleDraws(10);
   expected[1].b[5] = "49";
   expected[2].b[5] = "49";
@@ -216,10 +199,7 @@ TEST(WorkingCopy, ASmallDatabaseCanBeActivatedAfterARewrite) {
 TEST(WorkingCopy, AnEditGivesUpTheCorrectionThatWaited) {
   TestDesk desk;
   StartQuietly(desk);
-  desk.User().Pick(desk.Main().ListView1, 3);
-  desk.User().DoubleClick(desk.Main().ListView1);
-  desk.Main().TxtChange(5).SetText("98");
-  desk.User().Click(desk.Main().Label18);
+  EditRow(desk, 3, "98");
   desk.User().Pick(desk.Main().List7, 2);
   desk.User().Click(desk.Main().cmdedit);
   desk.User().Click(desk.Main().cmdedit);
@@ -231,10 +211,32 @@ TEST(WorkingCopy, AnEditGivesUpTheCorrectionThatWaited) {
   EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(40)));
 }
 
+// The blank row had been removed, and the draw on show was taken for the one before it.
+TEST(WorkingCopy, StorePendingKeepsTheDrawOnShowInADatabaseThatBeganEmpty) {
+  TestDesk desk(std::vector<store::DrawRecord>{});
+  StartQuietly(desk);
+  const std::vector<store::DrawRecord> draws = SampleDraws(4);
+  for (const store::DrawRecord& draw : draws) SaveDraw(desk, draw);
+  RemoveRow(desk, 1);  // the blank row
+  RemoveRow(desk, 1);
+  desk.User().Pick(desk.Main().ListView1, 2);
+  EXPECT_EQ(desk.Main().txtDate.Text(), draws[2].date);
+  desk.Desk().StorePending();
+  EXPECT_EQ(desk.Main().txtDate.Text(), draws[2].date);
+  EXPECT_EQ(desk.Main().ListView1.Cell(desk.Main().ListView1.SelectedIndex(), 7), draws[2].date);
+  desk.User().Click(desk.Main().cmdedit);
+  desk.Main().TxtBall06.SetText("99");
+  desk.User().Click(desk.Main().cmdedit);
+  auto expected = Without(draws, 1);
+  expected[1].b[5] = "99";
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+  EXPECT_TRUE(desk.boxes.shown.empty());
+}
+
 TEST(WorkingCopy, RewritesMoreThanHalfOfWhatTheCounterHolds) {
   TestDesk desk(SampleDraws(17000));
   desk.Start();
-  RemoveDraw(desk, 17000);
+  RemoveRow(desk, 17000);
   desk.Desk().Stop();
   EXPECT_TRUE(desk.boxes.shown.empty());
   EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(16999)));
