@@ -280,11 +280,13 @@ bool Entry::SaveNewRecord() {
 
 void Entry::ShowSavedDraw() {
   const DrawRecord saved = place_.session.current_draw;
-  const int place = place_.session.database.PlaceOf(place_.session.UpperBound());
+  const OpenDatabase& database = place_.session.database;
   MainWindow& window = place_.window;
   browsing_.cmdLast_Click();
-  window.List7.AddItem(DrawLine(saved), place);
-  window.ListView1.AddRow(TableRow(saved), place);
+  // A table that had lost its blank row has been loaded again by that, with the new draw.
+  const int place = database.PlaceOf(database.UpperBound());
+  if (window.List7.RowWithKey(place) < 0) window.List7.AddItem(DrawLine(saved), place);
+  if (window.ListView1.RowWithKey(place) == 0) window.ListView1.AddRow(TableRow(saved), place);
   window.List7.SetListIndex(window.List7.ListCount() - 1);
   window.List7.on.click();
   window.ListView1.Select(window.ListView1.RowCount());

@@ -269,6 +269,22 @@ TEST(OwnRows, AreKeptAlsoBehindAnActivationOfASmallDatabase) {
             Encode(SampleDraws(20)));
 }
 
+// The blank row was removed in the yield of Add; the table without a row was loaded again behind
+// the save, and the draw stood in it twice. The next edit wrote it twice.
+TEST(BlankRow, ADrawSavedIntoATableWithoutARowStandsThereOnce) {
+  TestDesk desk(std::vector<store::DrawRecord>{});
+  StartQuietly(desk);
+  desk.pump.At(1, [&] { desk.User().Click(desk.Main().Command18); });
+  Add(desk, SampleDraws(1)[0]);
+  EXPECT_EQ(desk.Main().List7.ListCount(), 1);
+  EXPECT_EQ(desk.Main().ListView1.RowCount(), 1);
+  Edit(desk, "49");
+  desk.Desk().Stop();
+  auto expected = SampleDraws(1);
+  expected[0].b[5] = "49";
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
+}
+
 // What only the desk still knew went with the press of Yes.
 TEST(OwnRows, OfAFileThatWasCutAreAnEarlierStateBeforeItIsLoaded) {
   TestDesk desk;
