@@ -31,7 +31,8 @@ void EnableChanges(Session& session, MainWindow& window) {
   const bool blank = session.shown_place == OpenDatabase::kBlankPlace;
   window.cmdedit.SetEnabled(in_table && !blank);
   window.Command18.SetEnabled(in_table && !IsEditing(window));
-  if (!complete) window.cmdAdd.SetEnabled(false);
+  const bool was_barred = window.cmdAdd.ToolTipText() == kNotComplete;
+  if (!complete || was_barred) window.cmdAdd.SetEnabled(complete);
   for (base::Button* button : {&window.cmdAdd, &window.cmdedit, &window.Command18}) {
     button->SetToolTipText(complete ? "" : kNotComplete);
   }

@@ -106,7 +106,10 @@ void Loading::Form_Activate() {
     session.filter_count = 1;
     window.txtRecNum.SetText("1");
     neighbours_.MarkMainWindow(true);
-    if (window.ProgressBar1(1).Value() >= 1 || window.Check1.Value() == 0) return;
+    if (window.ProgressBar1(1).Value() >= 1 || window.Check1.Value() == 0) {
+      EnableChanges(session, window);  // a scan that came before the first load keeps it off
+      return;
+    }
 
     session.draw_count = 0;
     session.file_pos = 1;

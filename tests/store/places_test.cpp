@@ -323,6 +323,23 @@ TEST(OpenDatabase, WithoutTheLockNoFileIsMade) {
   desk.Desk().Stop();
 }
 
+// A scan in a yield of the load leaves the window without a draw, and Add could be pressed there.
+TEST(Places, NothingCanBeChangedBeforeTheFirstLoad) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.User().Close(desk.Main());
+  desk.pump.At(1, [&] { desk.User().Click(desk.Main().CmdScan); });
+  desk.User().Choose(desk.Frame().MnuMainWindow);
+  EXPECT_EQ(desk.Main().ListView1.RowCount(), 0);
+  EXPECT_FALSE(desk.Main().cmdAdd.Enabled());
+  EXPECT_NE(desk.Main().cmdAdd.ToolTipText(), "");
+  desk.User().Close(desk.Main());
+  desk.User().Choose(desk.Frame().MnuMainWindow);
+  EXPECT_EQ(desk.Main().ListView1.RowCount(), 40);
+  EXPECT_TRUE(desk.Main().cmdAdd.Enabled());
+  EXPECT_EQ(desk.Main().cmdAdd.ToolTipText(), "");
+}
+
 TEST(OpenDatabase, ANameWithAZeroByteIsNone) {
   TestDesk desk;
   desk.settings.Save("Velmonte", "Data", "DataBaseName",

@@ -29,14 +29,25 @@ bool Belief::HasToStore() const {
 }
 
 void Belief::Load(const std::string& bytes) {
+  Forget();
   loaded = bytes;
+  DoubtWhatIsGone();
+}
+
+void Belief::DoubtWhatIsGone() {
+  for (std::optional<Draw>* known : {&on_show, &editing, &panel_on}) {
+    if (*known && !Contains(FileDraws(), **known)) *known = kOdd;
+  }
+}
+
+void Belief::Forget() {
+  loaded.reset();
   waiting_.clear();
   log_.clear();
 }
 
 void Belief::LeaveWindow() {
-  waiting_.clear();
-  log_.clear();
+  Forget();
   on_show.reset();
   editing.reset();
   panel_on.reset();
@@ -54,40 +65,66 @@ std::optional<Draw> Belief::Identify(const Draw& seen) const {
   const auto corrected = std::find_if(waiting_.begin(), waiting_.end(),
                                       [&](const WaitingRow& row) { return row.now == seen; });
   if (corrected != waiting_.end()) return corrected->was;
-  if (seen != kBlank && Contains(FileDraws(), seen)) return seen;
+  // While an edit is under way the table has it already.
+  for (const Intent* intent : intents) {
+    const bool is_edit = intent->kind == Intent::Kind::kEdit && !intent->is_done;
+    if (is_edit && intent->made == seen) return intent->target;
+  }
+  const Draws draws = FileDraws();
+  const auto alike = std::count(draws.begin(), draws.end(), seen);
+  if (alike > 1) return kOdd;
+  if (seen != kBlank && alike == 1) return seen;
   return std::nullopt;
 }
 
 Draw Belief::InTable(const Draw& draw) const {
-  const auto row = std::find_if(waiting_.begin(), waiting_.end(),
-                                [&](const WaitingRow& waiting) { return waiting.was == draw; });
+  const auto row = Find(draw);
   return row == waiting_.end() ? draw : row->now.value_or(draw);
 }
 
-bool Belief::IsInTable(const Draw& draw) const {
-  return std::none_of(waiting_.begin(), waiting_.end(), [&](const WaitingRow& waiting) {
-    return waiting.was == draw && !waiting.now && !waiting.may_be_forgotten;
-  });
+bool Belief::IsKnownInTable(const Draw& draw) const {
+  const auto row = Find(draw);
+  return row == waiting_.end() || !row->may_be_forgotten;
+}
+
+WaitingRows::const_iterator Belief::Find(const Draw& draw) const {
+  if (draw == kOdd) return waiting_.end();
+  return std::find_if(waiting_.begin(), waiting_.end(),
+                      [&](const WaitingRow& waiting) { return waiting.was == draw; });
 }
 
 void Belief::Drop(const Draw& draw) {
-  const auto row = std::find_if(waiting_.begin(), waiting_.end(),
-                                [&](const WaitingRow& waiting) { return waiting.was == draw; });
+  const auto row = Find(draw);
   if (row != waiting_.end()) waiting_.erase(row);
 }
 
 void Belief::Remove(const Draw& draw) {
-  log_.push_back(
-      {.told = Told(InTable(draw), "removed"), .bytes = loaded.value_or(""), .waiting = waiting_});
+  log_.push_back({.told = IsKnownInTable(draw) ? Told(InTable(draw), "removed") : kOdd,
+                  .bytes = loaded.value_or(""),
+                  .waiting = waiting_,
+                  .may_be_forgotten = draw == kOdd});
   Drop(draw);
-  waiting_.push_back({.was = draw});
+  waiting_.push_back({.was = draw, .may_be_forgotten = draw == kOdd});
 }
 
 void Belief::Correct(const Draw& draw, const Draw& now) {
   if (InTable(draw) == now) return;
-  log_.push_back({.told = Told(now, "changed"), .bytes = loaded.value_or(""), .waiting = waiting_});
+  log_.push_back({.told = Told(now, "changed"),
+                  .bytes = loaded.value_or(""),
+                  .waiting = waiting_,
+                  .may_be_forgotten = draw == kOdd});
   Drop(draw);
-  waiting_.push_back({.was = draw, .now = now});
+  waiting_.push_back({.was = draw, .now = now, .may_be_forgotten = draw == kOdd});
+}
+
+void Belief::KeepAsItWas(const Draw& draw) {
+  const auto row = Find(draw);
+  if (row == waiting_.end()) return;
+  log_.push_back({.told = Told(draw, "changed"),
+                  .bytes = loaded.value_or(""),
+                  .waiting = waiting_,
+                  .may_be_forgotten = row->may_be_forgotten});
+  waiting_.erase(row);
 }
 
 // --- Writes
@@ -116,12 +153,14 @@ std::string Belief::Take(const WriteSeen& write, const Moment& moment) {
       write.is_append ? *loaded + now.substr(std::min(write.before->size(), now.size())) : now;
   const Reading reading = Read(known);
   const Draws before = FileDraws();
-  if (!reading.is_whole) return "left a record cut";
-  if (Blanks(reading.draws) > Blanks(before)) return "wrote a blank record";
   const bool explained =
       IsExplained({.before = before, .after = reading.draws, .write = write, .moment = moment});
   loaded = known;
-  return explained ? "" : "wrote what nobody had asked for";
+  // What another program had cut comes back as it was.
+  const bool is_back = !intents.empty() && intents.back()->kind == Intent::Kind::kUndo;
+  if (!reading.is_whole && !is_back) return "left a record cut";
+  if (Blanks(reading.draws) > Blanks(before)) return "wrote a blank record";
+  return explained ? "" : "wrote what nobody had asked for" + Difference(before, reading.draws);
 }
 
 bool Belief::IsExplained(const Change& change) {
@@ -139,7 +178,9 @@ bool Belief::IsExplainedBy(Intent& intent, const Change& change) {
       return IsEdit(intent, change);
     case Intent::Kind::kStore:
     case Intent::Kind::kClose:
-      return IsStore(change);
+      if (!IsStore(change)) return false;
+      intent.is_done = true;
+      return true;
     case Intent::Kind::kUndo:
       return IsStepBack(change);
     case Intent::Kind::kOther:
@@ -165,9 +206,14 @@ bool Belief::IsEdit(Intent& intent, const Change& change) {
   if (intent.is_done || change.write.is_append) return false;
   const auto [old, now] = std::mismatch(change.before.begin(), change.before.end(),
                                         change.after.begin(), change.after.end());
-  if (old == change.before.end() || !Same(*old, intent.target)) return false;
   Draws expected = change.before;
-  expected[static_cast<std::size_t>(old - change.before.begin())] = intent.made;
+  if (old == change.before.end()) {
+    // Only a cut draw was made whole.
+    if (!Same(intent.made, intent.target)) return false;
+  } else {
+    if (!Same(*old, intent.target)) return false;
+    expected[static_cast<std::size_t>(old - change.before.begin())] = intent.made;
+  }
   if (!Same(change.after, expected)) return false;
   intent.is_done = true;
   log_.push_back({.told = Told(intent.made, "changed"),
@@ -219,8 +265,11 @@ std::vector<Belief::StepBack> Belief::StepsBack() const {
   for (std::size_t at = log_.size(); at > 0; --at) {
     const Logged& change = log_[at - 1];
     if (change.is_store) continue;  // goes with the change before it
-    steps.push_back(
-        {.told = change.told, .bytes = change.bytes, .waiting = change.waiting, .left = at - 1});
+    steps.push_back({.told = change.told,
+                     .bytes = change.bytes,
+                     .waiting = change.waiting,
+                     .left = at - 1,
+                     .is_sure = !change.may_be_forgotten});
     if (!change.may_be_forgotten) break;
   }
   return steps;
@@ -234,9 +283,7 @@ std::string Belief::StepBackTold(const std::vector<StepBack>& steps, const std::
   if (step == steps.end()) return "told what was not done: " + told;
   log_.resize(step->left);
   waiting_ = step->waiting;
-  for (std::optional<Draw>* known : {&on_show, &editing, &panel_on}) {
-    if (*known && !Contains(FileDraws(), **known)) *known = kOdd;
-  }
+  DoubtWhatIsGone();
   return {};
 }
 

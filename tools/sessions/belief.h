@@ -46,6 +46,8 @@ class Belief {
 
   // These bytes were read.
   void Load(const std::string& bytes);
+  // They are to be read anew, and nobody knows yet whether they could be.
+  void Forget();
   // Nothing that waits or can be taken back outlives a window.
   void LeaveWindow();
   // The window was activated: what waits may be forgotten by that.
@@ -55,9 +57,11 @@ class Belief {
   std::optional<Draw> Identify(const Draw& seen) const;
   // The draw as the table has it.
   Draw InTable(const Draw& draw) const;
-  bool IsInTable(const Draw& draw) const;
+
   void Remove(const Draw& draw);
   void Correct(const Draw& draw, const Draw& now);
+  // An edit left the draw as it stands in the file, and takes a correction of it back by that.
+  void KeepAsItWas(const Draw& draw);
 
   // The acts that are running, the outermost first.
   std::vector<Intent*> intents;
@@ -70,6 +74,7 @@ class Belief {
     std::string bytes{};
     WaitingRows waiting{};
     std::size_t left = 0;
+    bool is_sure = true;
   };
   std::vector<StepBack> StepsBack() const;
   // Takes a step back over that was told; what is wrong with it, or nothing.
@@ -97,7 +102,10 @@ class Belief {
   bool IsEdit(Intent& intent, const Change& change);
   bool IsStore(const Change& change);
   bool IsStepBack(const Change& change) const;
+  WaitingRows::const_iterator Find(const Draw& draw) const;
   void Drop(const Draw& draw);
+  void DoubtWhatIsGone();
+  bool IsKnownInTable(const Draw& draw) const;
   void Follow(const Change& change, const WaitingRows& stored);
 
   WaitingRows waiting_;

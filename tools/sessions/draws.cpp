@@ -211,6 +211,15 @@ bool Contains(const Draws& draws, const Draw& draw) {
   return std::find(draws.begin(), draws.end(), draw) != draws.end();
 }
 
+std::string Difference(const Draws& expected, const Draws& seen) {
+  const auto [here, there] =
+      std::mismatch(expected.begin(), expected.end(), seen.begin(), seen.end());
+  return ", of " + std::to_string(expected.size()) + " there are " + std::to_string(seen.size()) +
+         ", from number " + std::to_string(here - expected.begin() + 1) + ": " +
+         (here == expected.end() ? "none" : *here) + " / " +
+         (there == seen.end() ? "none" : *there);
+}
+
 bool Becomes(const Draws& before, const Draws& after, const WaitingRows& rows) {
   return Road(before, after, rows).Leads(0, 0);
 }

@@ -46,6 +46,8 @@ std::vector<std::size_t> RecordLengths(std::string_view bytes);
 bool Same(const Draw& a, const Draw& b);
 bool Same(const Draws& a, const Draws& b);
 bool Contains(const Draws& draws, const Draw& draw);
+// Where two runs of draws part, for a person.
+std::string Difference(const Draws& expected, const Draws& seen);
 
 // A draw that was corrected (`now`) or removed, and may not have reached the file.
 struct WaitingRow {

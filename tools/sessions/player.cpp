@@ -199,6 +199,7 @@ void Player::Finish(const Running& running, const Step& step) {
   failed_ = failed_ || HasFailed(running);
   NoticeWindow();
   if (running.was_done && Main() && step.then) step.then();
+  CountDone(running);
   NoticeDraw();
   CheckBoxes(running);
   CheckFiles();
@@ -206,6 +207,16 @@ void Player::Finish(const Running& running, const Step& step) {
   CheckLists();
   NoticeDraw();
   CheckDone(running);
+}
+
+void Player::CountDone(const Running& running) {
+  Report& report = world_.report;
+  if (!running.was_done) report.Count("acts that could not be done");
+  if (!running.intent.is_done) return;
+  if (running.intent.kind == Kind::kSave) report.Count("saves");
+  if (running.intent.kind == Kind::kEdit) report.Count("edits");
+  if (running.intent.kind == Kind::kStore) report.Count("rows stored");
+  if (running.intent.kind == Kind::kClose) report.Count("rows stored at a close");
 }
 
 void Player::InAYield() {
@@ -230,7 +241,12 @@ base::Answer Player::Ask(const base::MessageBox& box) {
   if (box.text.find("no longer in its folder") != std::string::npos) {
     moment_.may_write_again = answer == base::Answer::kYes;
   }
-  if (box.title == "Buffers are empty") buffers_lost_ = true;
+  if (box.title == "Buffers are empty") belief_.LeaveWindow();
+  const bool asks_to_load = box.text.find("Load it again?") != std::string::npos;
+  if (asks_to_load && answer == base::Answer::kYes) {
+    held_ = belief_.loaded;
+    belief_.Forget();
+  }
   return answer;
 }
 
@@ -270,8 +286,12 @@ void Player::Wrote(const WriteSeen& write) {
 void Player::WroteBeside(const std::string& name, const WriteSeen& write) {
   if (!name.starts_with("DataBases/") || !name.ends_with(".dat")) return;
   const std::string own = belief_.open.substr(0, belief_.open.size() - 4) + " own ";
-  if (!name.starts_with(own) || write.before) return Complain("the desk wrote to " + name);
+  const bool is_state = name.starts_with("DataBases/Earlier/") && held_ && write.after == held_;
+  if (write.before || !(is_state || name.starts_with(own))) {
+    return Complain("the desk wrote to " + name);
+  }
   world_.folder.Expect(name, *write.after);
+  if (is_state) return world_.report.Count("states kept before another was loaded");
   world_.report.Count("own rows kept");
   if (!Becomes(belief_.FileDraws(), Read(*write.after).draws, belief_.Waiting())) {
     Complain("the rows kept as " + name + " are not those that the desk held");

@@ -64,6 +64,7 @@ class Player {
   using Kind = Intent::Kind;
   void Do(Step step);
   void Announce(const std::string& line);
+  void CountDone(const Running& running);
   void Finish(const Running& running, const Step& step);
   bool Try(const std::function<void()>& act);
   bool IsOutermost() const { return running_.size() == 1; }
@@ -83,6 +84,7 @@ class Player {
   void Clear();
   void Reset();
   void Edit();
+  void SaveEdit(const Draw& made, const Draw& target);
   void ChangeABox();
   void RemoveDraw();
   void OpenPanel();
@@ -150,9 +152,10 @@ class Player {
   std::vector<Running*> running_;
   store::MainWindow* window_ = nullptr;  // the one known last
   Moment moment_;
-  std::string kept_;     // the earlier state kept last
-  bool failed_ = false;  // the disk failed since every draw was known
-  bool buffers_lost_ = false;
+  std::optional<std::string> held_;  // before another state was loaded in its place
+  std::string kept_;                 // the earlier state kept last
+  bool failed_ = false;              // the disk failed since every draw was known
+
   bool was_told_ = false;       // a box came since the outermost act began
   bool left_unstored_ = false;  // and a window was left with rows that waited
   std::string last_typed_;

@@ -41,6 +41,8 @@ const std::vector<Player::Choice>& Player::Choices() {
 }
 
 void Player::Act() {
+  NoticeWindow();
+  NoticeDraw();
   if (next_ && desk_ && Main() && world_.chance.Percent(75)) {
     (this->*std::exchange(next_, nullptr))();
     return;
@@ -181,16 +183,19 @@ void Player::Reset() { Click(Main()->CmdReset); }
 void Player::Edit() {
   if (IsEditing()) {
     if (!belief_.editing) Complain("an edit that nobody began");
-    Click(
-        Main()->cmdedit,
-        {.kind = Kind::kEdit, .made = DrawOf(InBoxes()), .target = belief_.editing.value_or(kOdd)});
-    return;
+    return SaveEdit(DrawOf(InBoxes()), belief_.editing.value_or(kOdd));
   }
   Click(Main()->cmdedit, {}, [this, on_show = belief_.on_show] {
     if (!IsEditing()) return;
     if (!on_show) Complain("an edit begins although no draw is on show");
     belief_.editing = on_show;
     next_ = &Player::ChangeABox;
+  });
+}
+
+void Player::SaveEdit(const Draw& made, const Draw& target) {
+  Click(Main()->cmdedit, {.kind = Kind::kEdit, .made = made, .target = target}, [=, this] {
+    if (made == target && running_.back()->boxes.empty()) belief_.KeepAsItWas(target);
   });
 }
 
@@ -223,7 +228,7 @@ void Player::OpenPanel() {
   base::ListView& table = Main()->ListView1;
   const int row = table.SelectedIndex();
   if (row < 1) return;
-  const auto draw = belief_.Identify(DrawOfRow(table.Row(row)));
+  const Draw draw = belief_.Identify(DrawOfRow(table.Row(row))).value_or(kOdd);
   Do({.line = "dblclick MainWindow.ListView1",
       .act = [&] { desk_->User().DoubleClick(table); },
       .then = [this, draw] { belief_.panel_on = draw; }});
@@ -233,7 +238,8 @@ void Player::OpenPanel() {
 void Player::Accept() {
   if (!Main()->Picture6.Visible()) return;
   Click(Main()->Label18, {}, [this, draw = belief_.panel_on, made = DrawOf(InPanel())] {
-    if (Main()->Picture6.Visible() || !draw || !belief_.IsInTable(*draw)) return;
+    // Of a draw that was removed meanwhile there is no row to correct.
+    if (Main()->Picture6.Visible() || !draw || !Contains(Rows(), made)) return;
     belief_.Correct(*draw, made);
     world_.report.Count("corrected rows");
   });
@@ -325,7 +331,8 @@ void Player::CheckUndone(const std::vector<Belief::StepBack>& steps, const std::
   if (!told.empty()) world_.report.Count("steps back");
   const std::string wrong = belief_.StepBackTold(steps, told);
   if (!wrong.empty()) Complain(wrong);
-  const bool could = steps.size() == 1 && running_.size() == 1 && belief_.loaded;
+  const bool could =
+      !steps.empty() && steps.front().is_sure && running_.size() == 1 && belief_.loaded;
   if (could && told.empty() && !was_told_ && !HasFailed(*running_.back())) {
     Complain("nothing was taken back, and nobody told");
   }
