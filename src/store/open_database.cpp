@@ -42,8 +42,9 @@ void OpenDatabase::DropTwin() {
     if (states.empty()) return;
     const std::string newest = PathOfState(path_, states.front());
     const std::optional<base::FileIdentity> state = files_.Identify(newest);
+    const std::optional<base::FileIdentity> now = files_.Identify(path_);
     // A database may also be a link to the state that somebody went back to: its only name then.
-    if (state && file_.IsTheFile(*state) && state->names > 1) files_.Remove(newest);
+    if (state && now && state->IsSameFile(*now) && state->names > 1) files_.Remove(newest);
   } catch (const base::Error&) {
     // One state too many does no harm.
   }
@@ -66,6 +67,7 @@ OpenDatabase::Access OpenDatabase::TryLock() {
   base::LockAttempt attempt = files_.TryLock(LockPath(path_));
   lock_ = std::move(attempt.lock);
   access_ = lock_ ? Access::kMine : attempt.held_by_another ? Access::kInUse : Access::kNone;
+  if (lock_ && IsOpen()) DropTwin();
   return access_;
 }
 

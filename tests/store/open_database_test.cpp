@@ -230,6 +230,39 @@ TEST(Lock, ThatBecameFreeLetsChangesThrough) {
   EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
 }
 
+// The desk that held it was killed, and left a second name of the file among the earlier states.
+TEST(Lock, ThatBecameFreeLeavesNoSecondNameOfTheFile) {
+  TestDesk desk;
+  const std::filesystem::path folder = desk.folder / "DataBases";
+  OpenDatabase other(desk.host_files);
+  other.Open(PathIn(desk));
+  StartQuietly(desk);
+  std::filesystem::create_directory(folder / "Earlier");
+  std::filesystem::create_hard_link(
+      folder / desk.database, folder / "Earlier" / "UK-National-Lottery 2005-12-05 14-30-00.dat");
+  other.Close();
+  SaveDraw(desk, Draw({1, 2, 3, 4, 5, 6, 7}));
+  EXPECT_EQ(desk.TakeBoxTexts(), Texts());
+  EXPECT_EQ(desk.DatabaseBytes().size(), 41u * 44);
+  EXPECT_EQ(desk.Desk().Earlier(), Texts());
+}
+
+// What was read is an earlier state by then, and the only name of its bytes.
+TEST(Lock, ThatBecameFreeLeavesTheEarlierStatesOfTheOtherDesk) {
+  TestDesk desk;
+  OpenDatabase other(desk.host_files);
+  other.Open(PathIn(desk));
+  Walk(other);
+  StartQuietly(desk);
+  EXPECT_TRUE(other.Rewrite(Encode(SampleDraws(39)), {2005, 12, 5, 14, 30, 0}).wrote);
+  other.Close();
+  desk.boxes.answers = {base::Answer::kNo};
+  SaveDraw(desk, Draw({1, 2, 3, 4, 5, 6, 7}));
+  EXPECT_EQ(desk.TakeBoxTexts().size(), 1u);
+  EXPECT_EQ(desk.ReadFile("DataBases/Earlier/UK-National-Lottery 2005-12-05 14-30-00.dat"),
+            Encode(SampleDraws(40)));
+}
+
 TEST(Lock, ThatIsLostRefusesToTakeBack) {
   TestDesk desk;
   StartQuietly(desk);
