@@ -241,7 +241,10 @@ base::Answer Player::Ask(const base::MessageBox& box) {
   if (box.text.find("no longer in its folder") != std::string::npos) {
     moment_.may_write_again = answer == base::Answer::kYes;
   }
-  if (box.title == "Buffers are empty") belief_.LeaveWindow();
+  if (box.title == "Buffers are empty") {
+    belief_.LeaveWindow();
+    reads_anew_ = true;  // once the box is closed
+  }
   const bool asks_to_load = box.text.find("Load it again?") != std::string::npos;
   if (asks_to_load && answer == base::Answer::kYes) {
     held_ = belief_.loaded;

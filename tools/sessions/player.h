@@ -160,7 +160,8 @@ class Player {
   bool left_unstored_ = false;  // and a window was left with rows that waited
   std::string last_typed_;
   int yields_ = 0;
-  int inside_ = 0;  // acts done inside the outermost one
+  bool reads_anew_ = false;  // the desk loads its buffers again
+  int inside_ = 0;           // acts done inside the outermost one
   int yield_percent_ = 0;
   void (Player::*next_)() = nullptr;  // what goes well behind the last act
 };

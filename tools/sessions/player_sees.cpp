@@ -80,6 +80,11 @@ void Player::NoticeWindow() {
 
 void Player::NoticeDraw() {
   if (!Main()) return;
+  if (reads_anew_ && Main()->ListView1.RowCount() > 0) {
+    reads_anew_ = false;
+    const std::optional<std::string> bytes = world_.folder.OnDisk(belief_.open);
+    if (bytes) belief_.Load(*bytes);
+  }
   if (Main()->cmdedit.Caption() == "Edit") belief_.editing.reset();
   if (!Main()->Picture6.Visible()) belief_.panel_on.reset();
   const Draw seen = DrawOf(InBoxes());
