@@ -12,7 +12,7 @@ struct SystemCall {
   std::string to;    // the new name of a rename or a link
   int flags = 0;     // of an open, a flock and whatever else takes some
 
-  std::string Text() const;  // "fsync /tmp/a", "rename /tmp/a /tmp/b"
+  std::string Text() const;  // "fsync /a", "rename /a /b"
 };
 
 // Sees every file call that this thread makes while it lives, in order, and makes one of them go
