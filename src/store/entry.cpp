@@ -49,6 +49,7 @@ void Entry::Wire() {
 // --- Adding
 
 void Entry::cmdAdd_Click() {
+  if (place_.desktop.IsHeld(place_.window)) return;  // the load would put a draw under it
   Session& session = place_.session;
   MainWindow& window = place_.window;
   EnableBoxes();
