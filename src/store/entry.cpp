@@ -265,9 +265,11 @@ bool Entry::SaveNewRecord() {
     for (int k = 0; k < kBalls; ++k) draw.Ball(k) = place_.window.BallBox(k).Text();
     draw.day = session.day_text;
     draw.date = place_.window.txtDate.Text();
-    if (!guard_.MayWrite()) return;
-    const std::size_t old_size = session.database.Bytes().size();
-    AppendCurrentDraw(session);
+    std::size_t old_size = 0;
+    do {
+      if (!guard_.MayWrite()) return;
+      old_size = session.database.Bytes().size();
+    } while (!AppendCurrentDraw(session));
     session.database.log.Add(
         {.told = "Draw of " + draw.date + " saved",
          .bytes = {.offset = old_size, .new_bytes = session.database.Bytes().substr(old_size)},
@@ -366,12 +368,11 @@ void Entry::ReplaceEditedLine() {
   const std::string line = LineOfBoxes();
   const std::string old_line = window.List7.Row(index);
   const base::ListView::Cells old_row = window.ListView1.Row(row);
-  const Edit edit{.bytes = BytesOfLines(window.List7, index, line),
-                  .place = place,
-                  .date = window.txtDate.Text()};
-  const int loads = database.Loads();
   DrawRecord edited;
   ParseDrawLine(line, edited);
+  const Edit edit{
+      .bytes = BytesOfLines(window.List7, index, line), .place = place, .date = edited.date};
+  const int loads = database.Loads();
 
   window.List7.RemoveItem(index);
   place_.Yield();

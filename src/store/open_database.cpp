@@ -153,7 +153,7 @@ OpenDatabase::Standing OpenDatabase::Compare() {
   return Standing::kAsRead;
 }
 
-std::int16_t OpenDatabase::Append(const DrawRecord& record) {
+std::optional<std::int16_t> OpenDatabase::Append(const DrawRecord& record) {
   const std::int16_t number = base::ToInt16(static_cast<double>(positions_.size()));
   positions_.reserve(positions_.size() + 1);
   // A save that was cut short has left a record torn: it is made whole in the same step, so that it
@@ -168,17 +168,32 @@ std::int16_t OpenDatabase::Append(const DrawRecord& record) {
     left_over = file_.Bytes().size() - end.offset;
     missing = std::move(end.missing);
   }
-  const std::size_t begin = file_.Bytes().size() + missing.size() - left_over;
+  const std::size_t old_size = file_.Bytes().size();
+  const std::size_t begin = old_size + missing.size() - left_over;
   file_.Append(missing + EncodeRecord(record).substr(left_over));
+  if (HasLeftItsPlace()) {
+    file_.Adopt(file_.Bytes().substr(0, old_size));
+    return std::nullopt;
+  }
   positions_.push_back(static_cast<std::int32_t>(begin + 1));
   return number;
+}
+
+// Whether the path has come to lead elsewhere than to the open file.
+bool OpenDatabase::HasLeftItsPlace() {
+  try {
+    const std::optional<base::FileIdentity> now = files_.Identify(path_);
+    return !now || !file_.IsTheFile(*now);
+  } catch (const base::Error&) {
+    return false;  // nothing speaks for it
+  }
 }
 
 OpenDatabase::Rewritten OpenDatabase::Rewrite(const std::string& bytes, const base::DateTime& now) {
   if (bytes == file_.Bytes()) return {};
   const std::string kept = KeepEarlierState(files_, path_, now);
   try {
-    files_.Replace(path_, bytes);
+    files_.ReplaceKept(path_, bytes, kept);
   } catch (...) {
     try {
       files_.Remove(kept);
@@ -217,7 +232,7 @@ void OpenDatabase::KeepWhatWasRead(const base::DateTime& now) {
 }
 
 void OpenDatabase::WriteAgain() {
-  files_.Replace(path_, file_.Bytes());
+  if (!files_.Create(path_, file_.Bytes())) return;
   file_.Adopt(std::string(file_.Bytes()));
   file_.Reopen(path_);
 }

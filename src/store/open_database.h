@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -84,8 +85,10 @@ class OpenDatabase {
   // Holds the file on the disk against what was read or last written. Only its bytes count: who
   // touches, copies or synchronises it raises no alarm.
   Standing Compare();
-  // Appends a draw; its number in the index. Error 6 for the 32,768th, before anything is written.
-  std::int16_t Append(const DrawRecord& record);
+  // Appends a draw; its number in the index. Nothing where the path has come to lead elsewhere since
+  // Compare: the draw is not in the database then. Error 6 for the 32,768th, before anything is
+  // written.
+  std::optional<std::int16_t> Append(const DrawRecord& record);
 
   struct Rewritten {
     bool wrote = false;     // false where the file held these bytes already
@@ -96,7 +99,8 @@ class OpenDatabase {
   // Keeps what was read, or written last, among the earlier states, before a file that somebody
   // else has changed is read in its place. One that only grew has it all.
   void KeepWhatWasRead(const base::DateTime& now);
-  // Writes what was read, or written last, to a path where no file is any more.
+  // Writes what was read, or written last, to a path where no file is any more; one that has come
+  // there meanwhile stays.
   void WriteAgain();
   // The names of the earlier states that are kept, the newest first.
   std::vector<std::string> Earlier() const;
@@ -112,6 +116,7 @@ class OpenDatabase {
  private:
   void DropTwin();
   void IndexBytes();
+  bool HasLeftItsPlace();
 
   base::FileSystem& files_;
   DrawFile file_;

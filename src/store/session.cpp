@@ -1,5 +1,7 @@
 #include "store/session.h"
 
+#include <optional>
+
 #include "base/language/numbers.h"
 
 namespace store {
@@ -27,11 +29,14 @@ void GoToEnd(Session& session) {
   session.file_pos = database.Length() + 1;
 }
 
-void AppendCurrentDraw(Session& session) {
-  session.draw_count = session.database.Append(session.current_draw);
+bool AppendCurrentDraw(Session& session) {
+  const std::optional<std::int16_t> number = session.database.Append(session.current_draw);
+  if (!number) return false;
+  session.draw_count = *number;
   session.current_place = session.database.PlaceOf(session.draw_count);
   session.file_pos = session.database.Positions().back();
   session.current_draw_number = static_cast<float>(session.draw_count) + 1;
+  return true;
 }
 
 }  // namespace store

@@ -98,8 +98,8 @@ void WalkFile(Session& session, Visit visit);
 void WalkFile(Session& session);
 
 // Appends current_draw, and brings the index, file_pos, draw_count and current_draw_number up to
-// date.
-void AppendCurrentDraw(Session& session);
+// date; false, and nothing done, where the database is not there any more.
+bool AppendCurrentDraw(Session& session);
 
 // Brings file_pos, draw_count and current_draw to what a walk to the end of the file leaves.
 void GoToEnd(Session& session);

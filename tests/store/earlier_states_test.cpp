@@ -235,7 +235,7 @@ TEST(EarlierStates, OneWhoseRewriteFailedIsRemoved) {
   TypeEdit(desk, 3, "98");
   {
     SystemCalls calls;
-    calls.FailFromNow(1, EIO, "rename");
+    calls.FailFromNow(1, EIO, "renameat2");
     desk.User().Click(desk.Main().cmdedit);
     EXPECT_TRUE(calls.HasStruck());
   }

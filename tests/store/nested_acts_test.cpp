@@ -270,6 +270,31 @@ TEST_F(NestedActs, InStorePendingLoseNoDraw) {
   for (const int count : kCounts) EXPECT_EQ(PlayInYields(kStorePending, count), 0);
 }
 
+// Add empties the boxes for what is typed; a load that went on behind it would put a draw under
+// that, and the next edit would go to this draw.
+TEST_F(NestedActs, AddInAnActivationPutsNoDrawUnderWhatIsTyped) {
+  for (const int count : kCounts) {
+    bool reached = true;
+    int pressed = 0;
+    for (int yield = 1; reached && !HasFailure(); ++yield) {
+      SCOPED_TRACE("yield " + std::to_string(yield) + ", " + std::to_string(count) + " draws");
+      TestDesk desk(SampleDraws(count));
+      desk.may_leave_unused = true;
+      StartQuietly(desk);
+      reached = false;
+      desk.pump.At(yield, [&] {
+        reached = true;
+        pressed += Press(desk, desk.Main().cmdAdd) ? 1 : 0;
+      });
+      desk.User().Switch(desk.Main());
+      const bool is_adding = desk.Main().cmdSave.Enabled();
+      EXPECT_EQ(desk.Session().shown_place == 0, is_adding);
+      EXPECT_EQ(desk.Main().TxtBall01.Text().empty(), is_adding);
+    }
+    EXPECT_GT(pressed, 3);
+  }
+}
+
 // While the desk asks about a file that another program changed. What is answered last is done, and
 // the other program's draw is there afterwards.
 void PlayInABox(const Procedure& procedure, const Nested& nested, base::Answer answer, int count) {

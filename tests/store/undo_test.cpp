@@ -79,6 +79,16 @@ TEST_F(Undo, OfAnEdit) {
   EXPECT_EQ(desk_.Main().ListView1.SelectedIndex(), 3);
 }
 
+TEST_F(Undo, OfAnEditTellsTheDateThatWasStored) {
+  StartQuietly(desk_);
+  desk_.User().Pick(desk_.Main().List7, 2);
+  desk_.User().Click(desk_.Main().cmdedit);
+  desk_.User().Paste(desk_.Main().txtDate, "04/01/001");
+  desk_.User().Click(desk_.Main().cmdedit);
+  EXPECT_EQ(TakeBack(), "Undone: Draw of 04/01/00 changed");
+  ExpectFile(odd_);
+}
+
 TEST_F(Undo, OfARowEdit) {
   StartQuietly(desk_);
   EditRow(desk_, 3, "98");

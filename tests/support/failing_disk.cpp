@@ -65,6 +65,17 @@ void FailingDisk::Replace(const std::string& path, std::string_view bytes) {
   disk_.Replace(path, bytes);
 }
 
+void FailingDisk::ReplaceKept(const std::string& path, std::string_view bytes,
+                              const std::string& kept) {
+  Count();
+  disk_.ReplaceKept(path, bytes, kept);
+}
+
+bool FailingDisk::Create(const std::string& path, std::string_view bytes) {
+  Count();
+  return disk_.Create(path, bytes);
+}
+
 void FailingDisk::Remove(const std::string& path) {
   Count();
   disk_.Remove(path);

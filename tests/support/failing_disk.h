@@ -30,6 +30,9 @@ class FailingDisk : public base::FileSystem {
   std::unique_ptr<base::File> Open(const std::string& path) override;
   std::string ReadAll(const std::string& path) override;
   void Replace(const std::string& path, std::string_view bytes) override;
+  void ReplaceKept(const std::string& path, std::string_view bytes,
+                   const std::string& kept) override;
+  bool Create(const std::string& path, std::string_view bytes) override;
   void Remove(const std::string& path) override;
   void Rename(const std::string& path, const std::string& new_path) override;
   void MakeFolder(const std::string& path) override;

@@ -94,6 +94,11 @@ void SystemCalls::ShortenFromNow(int n) { Arm(Plan::kShorten, n); }
 void SystemCalls::KillBefore(int n) { Arm(Plan::kKillBefore, n); }
 void SystemCalls::KillAfter(int n) { Arm(Plan::kKillAfter, n); }
 
+void SystemCalls::ActBefore(int n, std::function<void()> act) {
+  Arm(Plan::kAct, n);
+  act_ = std::move(act);
+}
+
 std::vector<std::string> SystemCalls::Texts(const std::string& folder) const {
   std::vector<std::string> texts;
   for (SystemCall call : seen_) {
@@ -116,6 +121,8 @@ bool SystemCalls::IsNextToStrike(const std::string& name) const {
 }
 
 int SystemCalls::ErrorOf(const SystemCall& call) {
+  const auto lacking = lacking_.find(call.name);
+  if (lacking != lacking_.end()) return lacking->second;
   if (plan_ == Plan::kFail && IsNextToStrike(call.name)) return error_;
   if (plan_ != Plan::kInterruptEachKind) return 0;
   if (std::find(interrupted_.begin(), interrupted_.end(), call.name) != interrupted_.end()) {
@@ -138,6 +145,7 @@ struct SystemCallGate {
     calls->seen_.push_back(call);
     const bool strikes = calls->IsNextToStrike(call.name);
     if (strikes && calls->plan_ == SystemCalls::Plan::kKillBefore) Die();
+    if (strikes && calls->plan_ == SystemCalls::Plan::kAct) calls->act_();
     errno = old_errno;
     const auto result = Made(calls->ErrorOf(call), real);
     if (strikes && calls->plan_ == SystemCalls::Plan::kKillAfter) Die();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -30,6 +32,8 @@ class SystemCalls {
 
   // The nth call does nothing and fails with this errno, once. (A close that fails has closed.)
   void FailFromNow(int n, int error, std::string name = {});
+  // From now on, whatever else it is told: the disk knows no call of this name.
+  void Lack(const std::string& name, int error) { lacking_[name] = error; }
   // The first call of each name fails with EINTR.
   void InterruptEachKind();
   // The nth read or write stops after half of its bytes, but not before the first.
@@ -37,6 +41,8 @@ class SystemCalls {
   // This process kills itself right before the nth call has done anything, or right after it.
   void KillBefore(int n);
   void KillAfter(int n);
+  // Something else happens right before the nth call; it may tell what that one is to do.
+  void ActBefore(int n, std::function<void()> act);
 
   // Whether what it was told last has happened.
   bool HasStruck() const { return has_struck_; }
@@ -46,7 +52,7 @@ class SystemCalls {
 
  private:
   friend struct SystemCallGate;
-  enum class Plan { kNone, kFail, kInterruptEachKind, kShorten, kKillBefore, kKillAfter };
+  enum class Plan { kNone, kFail, kInterruptEachKind, kShorten, kKillBefore, kKillAfter, kAct };
 
   void Arm(Plan plan, int n, int error = 0, std::string name = {});
   bool IsCounted(const std::string& name) const;
@@ -57,6 +63,8 @@ class SystemCalls {
   int left_ = 0;
   int error_ = 0;
   std::string name_;
+  std::function<void()> act_;
+  std::map<std::string, int> lacking_;
   bool has_struck_ = false;
   std::vector<std::string> interrupted_;
   std::vector<SystemCall> seen_;

@@ -136,16 +136,17 @@ std::string Belief::WrongPlace(const WriteSeen& write, const Moment& moment) con
     const bool right = moment.may_write_again && *write.after == *loaded;
     return right ? "" : "wrote a file that was gone, and nobody had asked for it";
   }
-  if (*write.before == *write.after) return "wrote the bytes that stood there";
-  if (*write.before != *loaded && !moment.another_program_came_between) {
-    return "wrote over what another program had left";
+  // Another program may do in between what the desk is about to do.
+  if (!moment.another_program_came_between) {
+    if (*write.before == *write.after) return "wrote the bytes that stood there";
+    if (*write.before != *loaded) return "wrote over what another program had left";
   }
   if (!write.is_append && !moment.is_kept) return "replaced a state that it did not keep";
   return {};
 }
 
 std::string Belief::Take(const WriteSeen& write, const Moment& moment) {
-  const std::string wrong = WrongPlace(write, moment);
+  std::string wrong = WrongPlace(write, moment);
   if (!wrong.empty() || !write.before) return wrong;
   const std::string& now = *write.after;
   // Behind what another program had appended in the same moment stands what the desk appended.

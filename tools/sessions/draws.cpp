@@ -27,7 +27,7 @@ bool IsDate(const std::string& text) {
 
 bool IsCommon(const Fields& fields) {
   return std::all_of(fields.begin(), fields.begin() + kBalls, IsBall) && IsDate(fields[kDate]) &&
-         fields[kDay].size() == 2;
+         fields[kDay].size() == 2 && fields[kDay].find(' ') == std::string::npos;
 }
 
 bool IsBlank(const Fields& fields) {
@@ -69,7 +69,7 @@ class RecordReader {
            256 * static_cast<std::size_t>(static_cast<unsigned char>(word[1]));
   }
   std::string Take(std::size_t count) {
-    const std::string taken(bytes_.substr(std::min(offset_, bytes_.size()), count));
+    std::string taken(bytes_.substr(std::min(offset_, bytes_.size()), count));
     if (taken.size() < count) is_whole_ = false;
     offset_ += taken.size();
     return taken;

@@ -8,8 +8,9 @@ namespace {
 constexpr int kLeastOfARecord = 30;  // so much of a cut one can be known again
 
 std::string Joined(const Draws& draws) {
-  return std::accumulate(draws.begin(), draws.end(), std::string(),
-                         [](std::string bytes, const Draw& draw) { return bytes + Encode(draw); });
+  std::string bytes;
+  for (const Draw& draw : draws) bytes += Encode(draw);
+  return bytes;
 }
 
 std::string WithoutLast(const std::string& bytes) {

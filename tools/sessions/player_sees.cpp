@@ -111,10 +111,10 @@ void Player::CheckLists() {
     }
     failed_ = false;
   } else {
-    // A scan that came in a yield of its load leaves the window without a line, and nothing can be
-    // changed then.
-    const bool is_bare = Main()->List7.ListCount() == 0 && !Main()->cmdAdd.Enabled() &&
-                         !Main()->cmdedit.Enabled() && !Main()->Command18.Enabled();
+    // A scan that came in a yield of its load leaves the window without a draw, and so does a file
+    // that is missing; nothing can be changed then.
+    const bool is_bare = lines.empty() && !Main()->cmdAdd.Enabled() && !Main()->cmdedit.Enabled() &&
+                         !Main()->Command18.Enabled();
     if (!failed_ && !is_bare) {
       Complain("the list shows other draws" + Difference(belief_.FileDraws(), lines));
     }

@@ -58,12 +58,28 @@ std::string WatchedDisk::ReadAll(const std::string& path) {
   return disk_.ReadAll(path);
 }
 
-void WatchedDisk::Replace(const std::string& path, std::string_view bytes) {
+void WatchedDisk::Write(const std::string& path, const std::function<void()>& write) {
   Count();
-  WriteSeen write{.path = path, .before = watcher_.BytesOf(path)};
-  disk_.Replace(path, bytes);
-  write.after = watcher_.BytesOf(path);
-  watcher_.Wrote(write);
+  WriteSeen seen{.path = path, .before = watcher_.BytesOf(path)};
+  write();
+  seen.after = watcher_.BytesOf(path);
+  watcher_.Wrote(seen);
+}
+
+void WatchedDisk::Replace(const std::string& path, std::string_view bytes) {
+  Write(path, [&] { disk_.Replace(path, bytes); });
+}
+
+void WatchedDisk::ReplaceKept(const std::string& path, std::string_view bytes,
+                              const std::string& kept) {
+  watcher_.BeforeWrite(path, false);
+  Write(path, [&] { disk_.ReplaceKept(path, bytes, kept); });
+}
+
+bool WatchedDisk::Create(const std::string& path, std::string_view bytes) {
+  bool created = false;
+  Write(path, [&] { created = disk_.Create(path, bytes); });
+  return created;
 }
 
 void WatchedDisk::Remove(const std::string& path) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -28,7 +29,7 @@ class WatchedDisk : public base::FileSystem {
     virtual ~Watcher() = default;
     virtual std::optional<std::string> BytesOf(const std::string& path) = 0;
     virtual void Opened(const std::string& path, bool came_into_being) = 0;
-    // Just before the desk keeps or appends to a file; another program may do something now.
+    // Just before the desk keeps, replaces or appends to a file; another program may do something now.
     virtual void BeforeWrite(const std::string& path, bool is_append) = 0;
     virtual void Wrote(const WriteSeen& write) = 0;
     virtual void Kept(const std::string& path, const std::string& second_path) = 0;
@@ -53,6 +54,9 @@ class WatchedDisk : public base::FileSystem {
   std::unique_ptr<base::File> Open(const std::string& path) override;
   std::string ReadAll(const std::string& path) override;
   void Replace(const std::string& path, std::string_view bytes) override;
+  void ReplaceKept(const std::string& path, std::string_view bytes,
+                   const std::string& kept) override;
+  bool Create(const std::string& path, std::string_view bytes) override;
   void Remove(const std::string& path) override;
   void Rename(const std::string& path, const std::string& new_path) override;
   void MakeFolder(const std::string& path) override;
@@ -67,6 +71,8 @@ class WatchedDisk : public base::FileSystem {
   Watcher& Eyes() { return watcher_; }
 
  private:
+  void Write(const std::string& path, const std::function<void()>& write);
+
   base::FileSystem& disk_;
   Watcher& watcher_;
   int left_ = 0;

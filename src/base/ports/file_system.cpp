@@ -11,6 +11,10 @@ std::optional<FileIdentity> NoFiles::Identify(const std::string&) { return std::
 std::unique_ptr<File> NoFiles::Open(const std::string&) { throw Error(kPathNotFound); }
 std::string NoFiles::ReadAll(const std::string&) { throw Error(kFileNotFound); }
 void NoFiles::Replace(const std::string&, std::string_view) { throw Error(kPathNotFound); }
+void NoFiles::ReplaceKept(const std::string&, std::string_view, const std::string&) {
+  throw Error(kPathNotFound);
+}
+bool NoFiles::Create(const std::string&, std::string_view) { throw Error(kPathNotFound); }
 void NoFiles::Remove(const std::string&) { throw Error(kFileNotFound); }
 void NoFiles::Rename(const std::string&, const std::string&) { throw Error(kFileNotFound); }
 void NoFiles::MakeFolder(const std::string&) { throw Error(kPathNotFound); }

@@ -69,6 +69,13 @@ class FileSystem {
   // Puts a file with these bytes in place of the old one: the new file is written beside it,
   // flushed to the disk and renamed over it. On failure the old file is whole.
   virtual void Replace(const std::string& path, std::string_view bytes) = 0;
+  // Replace for a file that Keep gave the name `kept`. Afterwards that name is borne by whatever
+  // stood at the path in the moment of the change: another program may have put its own there.
+  virtual void ReplaceKept(const std::string& path, std::string_view bytes,
+                           const std::string& kept) = 0;
+  // Puts a file with these bytes where none is, in the same way; false, and nothing done, where
+  // something bears the name.
+  virtual bool Create(const std::string& path, std::string_view bytes) = 0;
   // Error 53 when there is none.
   virtual void Remove(const std::string& path) = 0;
   // Gives a file, a link or whatever bears the name another one, in the same folder. A name that is
@@ -97,6 +104,9 @@ class NoFiles : public FileSystem {
   std::unique_ptr<File> Open(const std::string& path) override;
   std::string ReadAll(const std::string& path) override;
   void Replace(const std::string& path, std::string_view bytes) override;
+  void ReplaceKept(const std::string& path, std::string_view bytes,
+                   const std::string& kept) override;
+  bool Create(const std::string& path, std::string_view bytes) override;
   void Remove(const std::string& path) override;
   void Rename(const std::string& path, const std::string& new_path) override;
   void MakeFolder(const std::string& path) override;

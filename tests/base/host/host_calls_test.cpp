@@ -104,6 +104,18 @@ std::vector<Operation> Operations() {
        {{"a", kNew}},
        Replace,
        Files{{"a", kOld}}},
+      {"ReplaceKept",
+       {{"a", kOld}, {"k", "another"}},
+       {{"a", kNew}, {"k", kOld}},
+       [](base::FileSystem& files, const Folder& folder) {
+         files.ReplaceKept(folder.Path("a"), kNew, folder.Path("k"));
+       }},
+      {"Create",
+       {{"b", kOld}},
+       {{"a", kNew}, {"b", kOld}},
+       [](base::FileSystem& files, const Folder& folder) {
+         EXPECT_TRUE(files.Create(folder.Path("a"), kNew));
+       }},
       {"Append",
        {{"a", kOld}},
        {{"a", kOld + kNew}},
@@ -254,12 +266,92 @@ TEST(HostCalls, ReplaceFlushesTheFileBeforeAndTheFolderAfterTheRename) {
     const Texts texts = calls.Texts(folder.Root());
     SCOPED_TRACE(testing::PrintToString(texts));
     const auto rename = FirstOf(texts, "rename a" + kBeside + " a");
-    EXPECT_LT(LastOf(texts, "pwrite a" + kBeside), FirstOf(texts, "fsync a" + kBeside));
+    EXPECT_LT(LastOf(texts, "write a" + kBeside), FirstOf(texts, "fsync a" + kBeside));
     EXPECT_LT(FirstOf(texts, "fsync a" + kBeside), rename);
     EXPECT_LT(rename, FirstOf(texts, "fsync ."));
     EXPECT_LT(FirstOf(texts, "fsync ."), std::ssize(texts));
   }
 }
+
+// --- Replacing a file that is kept
+
+class KeptFile : public testing::Test {
+ protected:
+  // The state is kept, then the file replaced, with one thing or another in between.
+  Files ReplaceWith(const std::function<void()>& in_between) {
+    files_.Keep(folder_.Path("a"), folder_.Path("k"));
+    in_between();
+    files_.ReplaceKept(folder_.Path("a"), kNew, folder_.Path("k"));
+    return folder_.Now();
+  }
+  void PutInPlace() {
+    std::ofstream(folder_.Path("b"), std::ios::binary) << "another";
+    fs::rename(folder_.Path("b"), folder_.Path("a"));
+  }
+
+  Folder folder_{{{"a", kOld}}};
+  base::HostFileSystem files_;
+};
+
+TEST_F(KeptFile, BearsItsNameAfterwards) {
+  EXPECT_EQ(ReplaceWith([] {}), (Files{{"a", kNew}, {"k", kOld}}));
+  EXPECT_EQ(fs::hard_link_count(folder_.Path("k")), 1u);
+}
+
+TEST_F(KeptFile, GivesItsNameToWhatAnotherProgramHadPutThere) {
+  EXPECT_EQ(ReplaceWith([&] { PutInPlace(); }), (Files{{"a", kNew}, {"k", "another"}}));
+}
+
+TEST_F(KeptFile, ComesBackWhereAnotherProgramHasRemovedIt) {
+  EXPECT_EQ(ReplaceWith([&] { fs::remove(folder_.Path("a")); }), (Files{{"a", kNew}, {"k", kOld}}));
+}
+
+TEST_F(KeptFile, IsReplacedOnADiskThatExchangesNoNames) {
+  for (const int error : {EINVAL, ENOSYS, EOPNOTSUPP}) {
+    std::ofstream(folder_.Path("a"), std::ios::binary) << kOld;
+    fs::remove(folder_.Path("k"));
+    SystemCalls calls;
+    calls.Lack("renameat2", error);
+    EXPECT_EQ(ReplaceWith([] {}), (Files{{"a", kNew}, {"k", kOld}}));
+  }
+}
+
+TEST_F(KeptFile, OfAnotherDiskTakesACopyOfWhatWasReplaced) {
+  files_.Keep(folder_.Path("a"), folder_.Path("k"));
+  PutInPlace();
+  SystemCalls calls;
+  calls.FailFromNow(1, EXDEV, "rename");
+  files_.ReplaceKept(folder_.Path("a"), kNew, folder_.Path("k"));
+  EXPECT_TRUE(calls.HasStruck());
+  EXPECT_EQ(folder_.Now(), (Files{{"a", kNew}, {"k", "another"}}));
+}
+
+// --- Creating
+
+TEST(HostCalls, CreateTakesNoNameFromAnybody) {
+  for (const bool knows_the_call : {true, false}) {
+    const Folder folder({{"a", kOld}});
+    base::HostFileSystem files;
+    SystemCalls calls;
+    if (!knows_the_call) calls.Lack("renameat2", EINVAL);
+    EXPECT_FALSE(files.Create(folder.Path("a"), kNew));
+    EXPECT_EQ(folder.Now(), (Files{{"a", kOld}}));
+  }
+}
+
+TEST(HostCalls, CreateDoesWithoutTheCallsThatADiskLacks) {
+  for (const bool knows_second_names : {true, false}) {
+    const Folder folder({});
+    base::HostFileSystem files;
+    SystemCalls calls;
+    calls.Lack("renameat2", ENOSYS);
+    if (!knows_second_names) calls.Lack("link", EPERM);
+    EXPECT_TRUE(files.Create(folder.Path("a"), kNew));
+    EXPECT_EQ(folder.Now(), (Files{{"a", kNew}}));
+  }
+}
+
+// --- Appending
 
 TEST(HostCalls, AppendFlushesWhatItWrote) {
   const Folder folder({{"a", kOld}});
@@ -269,13 +361,13 @@ TEST(HostCalls, AppendFlushesWhatItWrote) {
   file->Append(kNew);
   const Texts texts = calls.Texts(folder.Root());
   SCOPED_TRACE(testing::PrintToString(texts));
-  EXPECT_LT(LastOf(texts, "pwrite a"), LastOf(texts, "fsync a"));
+  EXPECT_LT(LastOf(texts, "write a"), LastOf(texts, "fsync a"));
   EXPECT_EQ(texts.back(), "fsync a");
 }
 
 // A record that the disk took only in part, or may have, would stand in front of the next one.
 TEST(HostCalls, AFailedAppendIsCutBackAndThatIsFlushed) {
-  for (const char* failing : {"pwrite", "fsync"}) {
+  for (const char* failing : {"write", "fsync"}) {
     const Folder folder({{"a", kOld}});
     base::HostFileSystem files;
     const auto file = files.Open(folder.Path("a"));
@@ -285,11 +377,40 @@ TEST(HostCalls, AFailedAppendIsCutBackAndThatIsFlushed) {
     const Texts texts = calls.Texts(folder.Root());
     SCOPED_TRACE(testing::PrintToString(texts));
     EXPECT_LT(LastOf(texts, std::string(failing) + " a"), std::ssize(texts));
-    EXPECT_LT(LastOf(texts, "pwrite a"), FirstOf(texts, "ftruncate a"));
+    EXPECT_LT(LastOf(texts, "write a"), FirstOf(texts, "ftruncate a"));
     EXPECT_LT(FirstOf(texts, "ftruncate a"), LastOf(texts, "fsync a"));
     EXPECT_EQ(file->ReadAt(0, 100), kOld);
     EXPECT_EQ(file->Length(), static_cast<std::int64_t>(kOld.size()));
   }
+}
+
+// Cutting back would take it away as well.
+TEST(HostCalls, AFailedAppendLeavesWhatAnotherProgramWroteBehindIt) {
+  const Folder folder({{"a", kOld}});
+  base::HostFileSystem files;
+  const auto file = files.Open(folder.Path("a"));
+  {
+    SystemCalls calls;
+    calls.ActBefore(3, [&] {
+      std::ofstream(folder.Path("a"), std::ios::binary | std::ios::app) << "more";
+      calls.FailFromNow(1, ENOSPC, "fsync");
+    });
+    EXPECT_THROW(file->Append(kNew), base::Error);
+    EXPECT_TRUE(calls.HasStruck());
+  }
+  EXPECT_EQ(BytesOf(folder.Path("a")), kOld + kNew + "more");
+}
+
+TEST(HostCalls, AnAppendGoesBehindWhatAnotherProgramHasJustWritten) {
+  const Folder folder({{"a", kOld}});
+  base::HostFileSystem files;
+  const auto file = files.Open(folder.Path("a"));
+  SystemCalls calls;
+  calls.ActBefore(
+      2, [&] { std::ofstream(folder.Path("a"), std::ios::binary | std::ios::app) << "more"; });
+  file->Append(kNew);
+  EXPECT_EQ(calls.Seen()[1].name, "write");
+  EXPECT_EQ(BytesOf(folder.Path("a")), kOld + "more" + kNew);
 }
 
 // A program that the desk starts gets none of its files.
