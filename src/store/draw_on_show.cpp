@@ -10,6 +10,9 @@ bool IsInTable(const Session& session, const MainWindow& window) {
   return session.database.IsComplete() && window.ListView1.RowWithKey(session.shown_place) > 0;
 }
 
+// Also while a draw is looked at in between: what is typed over it is still to be added.
+bool IsAdding(const MainWindow& window) { return window.cmdSave.Enabled(); }
+
 }  // namespace
 
 bool IsEditing(const MainWindow& window) { return window.cmdedit.Caption() != kEdit; }
@@ -30,7 +33,7 @@ void EnableChanges(Session& session, MainWindow& window) {
   const bool in_table = IsInTable(session, window);
   const bool blank = session.shown_place == OpenDatabase::kBlankPlace;
   window.cmdedit.SetEnabled(in_table && !blank);
-  window.Command18.SetEnabled(in_table && !IsEditing(window));
+  window.Command18.SetEnabled(in_table && !IsEditing(window) && !IsAdding(window));
   const bool was_barred = window.cmdAdd.ToolTipText() == kNotComplete;
   if (!complete || was_barred) window.cmdAdd.SetEnabled(complete);
   for (base::Button* button : {&window.cmdAdd, &window.cmdedit, &window.Command18}) {

@@ -189,17 +189,22 @@ bool OpenDatabase::HasLeftItsPlace() {
   }
 }
 
+// The state of a rewrite that failed, unless the file is gone or another one by now.
+void OpenDatabase::DropUnlessAlone(const std::string& kept) {
+  try {
+    if (files_.ReadAll(path_) == files_.ReadAll(kept)) files_.Remove(kept);
+  } catch (const base::Error&) {
+    // One state too many does no harm.
+  }
+}
+
 OpenDatabase::Rewritten OpenDatabase::Rewrite(const std::string& bytes, const base::DateTime& now) {
   if (bytes == file_.Bytes()) return {};
   const std::string kept = KeepEarlierState(files_, path_, now);
   try {
     files_.ReplaceKept(path_, bytes, kept);
   } catch (...) {
-    try {
-      files_.Remove(kept);
-    } catch (const base::Error&) {
-      // One state too many does no harm.
-    }
+    DropUnlessAlone(kept);
     throw;
   }
   Rewritten result{.wrote = true};

@@ -85,9 +85,9 @@ class OpenDatabase {
   // Holds the file on the disk against what was read or last written. Only its bytes count: who
   // touches, copies or synchronises it raises no alarm.
   Standing Compare();
-  // Appends a draw; its number in the index. Nothing where the path has come to lead elsewhere since
-  // Compare: the draw is not in the database then. Error 6 for the 32,768th, before anything is
-  // written.
+  // Appends a draw; its number in the index. Nothing where the path has come to lead elsewhere
+  // since Compare: the draw is not in the database then. Error 6 for the 32,768th, before anything
+  // is written.
   std::optional<std::int16_t> Append(const DrawRecord& record);
 
   struct Rewritten {
@@ -117,6 +117,7 @@ class OpenDatabase {
   void DropTwin();
   void IndexBytes();
   bool HasLeftItsPlace();
+  void DropUnlessAlone(const std::string& kept);
 
   base::FileSystem& files_;
   DrawFile file_;

@@ -337,6 +337,24 @@ TEST(EarlierStates, AForeignWriteInBetweenIsToldAndKept) {
   }
 }
 
+// The state is all that is left of the draws then.
+TEST(EarlierStates, OneWhoseRewriteFailedStaysWhereAnotherProgramHasTakenTheFile) {
+  TestDesk desk;
+  desk.clock.now = kNow;
+  StartQuietly(desk);
+  TypeEdit(desk, 3, "98");
+  {
+    SystemCalls calls;
+    calls.Lack("rename", EIO);
+    calls.ActBefore(
+        1, [&] { std::filesystem::remove(DatabaseOf(desk)); }, "renameat2");
+    desk.User().Click(desk.Main().cmdedit);
+    EXPECT_TRUE(calls.HasStruck());
+  }
+  EXPECT_EQ(desk.TakeBoxTexts().size(), 1u);
+  EXPECT_EQ(StateBytes(desk, kName), Encode(SampleDraws(40)));
+}
+
 // --- A database that is a link
 
 class LinkedDatabase : public testing::Test {

@@ -367,6 +367,19 @@ TEST(Entry, WhileAddingThereIsNoDrawToEditOrRemove) {
   EXPECT_TRUE(desk.Main().Command18.Enabled());
 }
 
+// What is typed then may stand over the draw that was looked at.
+TEST(Entry, ADrawLookedAtWhileAddingCannotBeRemoved) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.User().Click(desk.Main().cmdAdd);
+  desk.User().Pick(desk.Main().ListView1, 4);
+  EXPECT_TRUE(desk.Main().cmdedit.Enabled());
+  EXPECT_FALSE(desk.Main().Command18.Enabled());
+  desk.User().Click(desk.Main().cmdedit);
+  desk.User().Click(desk.Main().cmdedit);
+  EXPECT_TRUE(desk.Main().Command18.Enabled());
+}
+
 TEST(Entry, WhileEditingNothingCanBeRemoved) {
   TestDesk desk;
   StartQuietly(desk);

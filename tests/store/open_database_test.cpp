@@ -177,6 +177,7 @@ void ExpectEveryChangeRefused(TestDesk& desk, const char* told) {
   SaveDraw(desk, Draw({1, 2, 3, 4, 5, 6, 7}));
   expect_refused("a save");
   EXPECT_EQ(desk.Main().TxtBall01.Text(), "01");
+  desk.User().Click(desk.Main().CmdReset);
   RemoveRow(desk, 5);
   desk.Desk().StorePending();
   expect_refused("StorePending");

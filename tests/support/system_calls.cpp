@@ -94,8 +94,8 @@ void SystemCalls::ShortenFromNow(int n) { Arm(Plan::kShorten, n); }
 void SystemCalls::KillBefore(int n) { Arm(Plan::kKillBefore, n); }
 void SystemCalls::KillAfter(int n) { Arm(Plan::kKillAfter, n); }
 
-void SystemCalls::ActBefore(int n, std::function<void()> act) {
-  Arm(Plan::kAct, n);
+void SystemCalls::ActBefore(int n, std::function<void()> act, std::string name) {
+  Arm(Plan::kAct, n, 0, std::move(name));
   act_ = std::move(act);
 }
 

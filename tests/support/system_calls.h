@@ -42,7 +42,7 @@ class SystemCalls {
   void KillBefore(int n);
   void KillAfter(int n);
   // Something else happens right before the nth call; it may tell what that one is to do.
-  void ActBefore(int n, std::function<void()> act);
+  void ActBefore(int n, std::function<void()> act, std::string name = {});
 
   // Whether what it was told last has happened.
   bool HasStruck() const { return has_struck_; }

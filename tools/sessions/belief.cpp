@@ -71,6 +71,9 @@ std::optional<Draw> Belief::Identify(const Draw& seen) const {
     if (is_edit && intent->made == seen) return intent->target;
   }
   const Draws draws = FileDraws();
+  // A draw that no box can show is on show where the boxes still hold one that was removed.
+  const auto removed = Find(seen);
+  if (removed != waiting_.end() && !removed->now && Contains(draws, kOdd)) return kOdd;
   const auto alike = std::count(draws.begin(), draws.end(), seen);
   if (alike > 1) return kOdd;
   if (seen != kBlank && alike == 1) return seen;
@@ -132,26 +135,29 @@ void Belief::KeepAsItWas(const Draw& draw) {
 std::string Belief::WrongPlace(const WriteSeen& write, const Moment& moment) const {
   if (!loaded) return "wrote a database of which it did not know every draw";
   if (!write.after) return "left no file where it wrote";
-  if (!write.before) {
-    const bool right = moment.may_write_again && *write.after == *loaded;
-    return right ? "" : "wrote a file that was gone, and nobody had asked for it";
-  }
-  // Another program may do in between what the desk is about to do.
-  if (!moment.another_program_came_between) {
-    if (*write.before == *write.after) return "wrote the bytes that stood there";
-    if (*write.before != *loaded) return "wrote over what another program had left";
-  }
-  if (!write.is_append && !moment.is_kept) return "replaced a state that it did not keep";
+  // Another program may take the file away, or do in between what the desk is about to do.
+  if (moment.another_program_came_between) return {};
+  if (!write.before) return "wrote a file that was gone, and nobody had asked for it";
+  if (*write.before == *write.after) return "wrote the bytes that stood there";
+  if (*write.before != *loaded) return "wrote over what another program had left";
   return {};
 }
 
 std::string Belief::Take(const WriteSeen& write, const Moment& moment) {
+  if (write.is_append && moment.another_program_came_between && write.before == write.after) {
+    return {};  // what was appended went with the file that was taken away
+  }
+  if (!write.before && moment.may_write_again && loaded && write.after == loaded) return {};
   std::string wrong = WrongPlace(write, moment);
-  if (!wrong.empty() || !write.before) return wrong;
+  if (wrong.empty() && write.before && !write.is_append && !moment.is_kept) {
+    wrong = "replaced a state that it did not keep";
+  }
+  if (!wrong.empty()) return wrong;
   const std::string& now = *write.after;
   // Behind what another program had appended in the same moment stands what the desk appended.
   const std::string known =
-      write.is_append ? *loaded + now.substr(std::min(write.before->size(), now.size())) : now;
+      write.is_append ? *loaded + now.substr(std::min(write.before.value_or("").size(), now.size()))
+                      : now;
   const Reading reading = Read(known);
   const Draws before = FileDraws();
   const bool explained =

@@ -25,6 +25,8 @@ class Folder {
   // What is to stand there from now on.
   void Expect(const std::string& name, std::string bytes);
   void ExpectNone(const std::string& name) { expected_.erase(name); }
+  // A file that was moved a moment ago may have grown by what the desk appended.
+  void ExpectMore();
   // Everything that ever stood there, the newest last: an open file goes on reading what another
   // one has taken the place of.
   const std::vector<std::string>& Past(const std::string& name) { return past_[name]; }

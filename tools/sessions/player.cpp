@@ -58,9 +58,7 @@ class Player::Eyes : public WatchedDisk::Watcher {
   void Opened(const std::string& path, bool came_into_being) override {
     player_.Opened(path, came_into_being);
   }
-  void BeforeWrite(const std::string& path, bool is_append) override {
-    player_.BeforeWrite(path, is_append);
-  }
+  void BeforeWrite(const std::string& path) override { player_.BeforeWrite(path); }
   void Wrote(const WriteSeen& write) override { player_.Wrote(write); }
   void Kept(const std::string& /*path*/, const std::string& second_path) override {
     player_.kept_ = second_path;
@@ -197,6 +195,9 @@ bool Player::Try(const std::function<void()>& act) {
 
 void Player::Finish(const Running& running, const Step& step) {
   failed_ = failed_ || HasFailed(running);
+  const Intent& intent = running.intent;
+  const bool kept = intent.kind == Kind::kEdit && intent.made == intent.target;
+  if (kept && running.was_done && running.boxes.empty()) belief_.KeepAsItWas(intent.target);
   NoticeWindow();
   if (running.was_done && Main() && step.then) step.then();
   CountDone(running);
@@ -265,11 +266,11 @@ void Player::Opened(const std::string& path, bool came_into_being) {
   belief_.open = name;
 }
 
-void Player::BeforeWrite(const std::string& path, bool is_append) {
+void Player::BeforeWrite(const std::string& path) {
   const std::string name = world_.folder.NameOf(path);
   if (name != belief_.open || !world_.chance.Percent(1)) return;
-  const std::string told = is_append || world_.chance.Percent(50) ? AppendFromOutside(world_, name)
-                                                                  : ActFromOutside(world_, name);
+  const std::string told =
+      world_.chance.Percent(50) ? AppendFromOutside(world_, name) : ActFromOutside(world_, name);
   if (told.empty()) return;
   world_.report.Inside(told + " between two calls");
   moment_.another_program_came_between = true;
@@ -281,6 +282,7 @@ void Player::Wrote(const WriteSeen& write) {
   moment_.is_kept = !kept_.empty() && BytesOf(kept_) == write.before;
   kept_.clear();
   if (write.after) world_.folder.Expect(name, *write.after);
+  if (write.is_append && write.before == write.after) world_.folder.ExpectMore();
   const std::string wrong = belief_.Take(write, moment_);
   if (!wrong.empty()) Complain("the desk " + wrong);
 }

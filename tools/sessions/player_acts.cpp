@@ -194,9 +194,7 @@ void Player::Edit() {
 }
 
 void Player::SaveEdit(const Draw& made, const Draw& target) {
-  Click(Main()->cmdedit, {.kind = Kind::kEdit, .made = made, .target = target}, [=, this] {
-    if (made == target && running_.back()->boxes.empty()) belief_.KeepAsItWas(target);
-  });
+  Click(Main()->cmdedit, {.kind = Kind::kEdit, .made = made, .target = target});
 }
 
 void Player::ChangeABox() {

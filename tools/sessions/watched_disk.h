@@ -29,8 +29,9 @@ class WatchedDisk : public base::FileSystem {
     virtual ~Watcher() = default;
     virtual std::optional<std::string> BytesOf(const std::string& path) = 0;
     virtual void Opened(const std::string& path, bool came_into_being) = 0;
-    // Just before the desk keeps, replaces or appends to a file; another program may do something now.
-    virtual void BeforeWrite(const std::string& path, bool is_append) = 0;
+    // Just before the desk keeps, replaces or appends to a file; another program may do something
+    // now.
+    virtual void BeforeWrite(const std::string& path) = 0;
     virtual void Wrote(const WriteSeen& write) = 0;
     virtual void Kept(const std::string& path, const std::string& second_path) = 0;
     virtual void Removed(const std::string& path, const std::string& bytes) = 0;
