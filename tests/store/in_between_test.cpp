@@ -162,5 +162,47 @@ TEST(InBetween, NobodysDrawsAreLost) {
   }
 }
 
+// A program that synchronises puts a copy in place: the draw goes to the copy.
+TEST(InBetween, ASaveGoesToACopyThatHasTakenThePlace) {
+  TestDesk desk;
+  StartQuietly(desk);
+  TypeDraw(desk, Added());
+  {
+    SystemCalls calls;
+    calls.ActBefore(
+        1,
+        [&] {
+          const std::filesystem::path beside = desk.folder / "copy";
+          std::ofstream(beside, std::ios::binary) << desk.DatabaseBytes();
+          std::filesystem::rename(beside, PathOf(desk));
+        },
+        "write");
+    desk.User().Click(desk.Main().cmdSave);
+    EXPECT_TRUE(calls.HasStruck());
+  }
+  EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>());
+  Draws draws = SampleDraws(kDraws);
+  draws.push_back(Added());
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(draws));
+  EXPECT_EQ(desk.Main().ListView1.RowCount(), kDraws + 1);
+}
+
+TEST(InBetween, AFileThatComesWhileItIsWrittenAgainStays) {
+  TestDesk desk;
+  StartQuietly(desk);
+  std::filesystem::remove(PathOf(desk));
+  desk.boxes.answers = {base::Answer::kYes, base::Answer::kNo};
+  TypeEdit(desk, 8, "99");
+  {
+    SystemCalls calls;
+    calls.ActBefore(
+        1, [&] { std::ofstream(PathOf(desk), std::ios::binary) << Foreign(); }, "renameat2");
+    desk.User().Click(desk.Main().cmdedit);
+    EXPECT_TRUE(calls.HasStruck());
+  }
+  EXPECT_EQ(desk.TakeBoxTexts().size(), 2u);
+  EXPECT_EQ(desk.DatabaseBytes(), Foreign());
+}
+
 }  // namespace
 }  // namespace test

@@ -295,6 +295,20 @@ TEST_F(NestedActs, AddInAnActivationPutsNoDrawUnderWhatIsTyped) {
   }
 }
 
+TEST_F(NestedActs, ADrawLookedAtInASaveIsNotTheOneOnShow) {
+  TestDesk desk;
+  StartQuietly(desk);
+  TypeDraw(desk, Added());
+  desk.Main().txtDate.SetText("10/12/2005");
+  desk.pump.At(1, [&] { desk.User().Pick(desk.Main().ListView1, 5); });
+  desk.User().Click(desk.Main().cmdSave);
+  EXPECT_EQ(desk.TakeBoxTexts(),
+            Texts{"Date field is incorrect please enter in this format 00/00/00"});
+  EXPECT_EQ(desk.Main().TxtBall01.Text(), "01");
+  EXPECT_EQ(desk.Session().shown_place, 0);
+  EXPECT_FALSE(desk.Main().cmdedit.Enabled());
+}
+
 // While the desk asks about a file that another program changed. What is answered last is done, and
 // the other program's draw is there afterwards.
 void PlayInABox(const Procedure& procedure, const Nested& nested, base::Answer answer, int count) {

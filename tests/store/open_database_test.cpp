@@ -52,6 +52,21 @@ TEST(OpenDatabase, TakesADrawBehindThoseThatWereWrittenAgain) {
   EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
 }
 
+TEST(OpenDatabase, KnowsNothingOfTheLoadBefore) {
+  TestDesk desk;
+  OpenDatabase database(desk.host_files);
+  database.Open(PathIn(desk));
+  Walk(database);
+  database.keeps_own_rows = true;
+  database.pending[3] = std::nullopt;
+  database.log.Add({.told = "Draw of 03/01/00 removed", .place = 3});
+  database.Open(PathIn(desk));
+  EXPECT_FALSE(database.keeps_own_rows);
+  EXPECT_TRUE(database.pending.empty());
+  EXPECT_TRUE(database.log.Newest().empty());
+  EXPECT_FALSE(database.IsComplete());
+}
+
 // A file that was written and could not be opened again is known by what was written.
 TEST(OpenDatabase, CanBeWalkedAgainAfterARewrite) {
   const std::string written = Encode(SampleDraws(39));

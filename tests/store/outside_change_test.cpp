@@ -285,6 +285,7 @@ class LoadedAgain : public testing::Test {
     EXPECT_EQ(desk_.DatabaseBytes(), Encode(foreign));
     EXPECT_EQ(desk_.Main().TxtBall06.Text(), "99");
     EXPECT_EQ(desk_.Main().cmdedit.Caption(), "Edit");
+    EXPECT_FALSE(desk_.Session().data_base_changed);
   }
 
   void PressEditAgain() {

@@ -298,6 +298,30 @@ TEST(OwnRows, OfAFileThatWasCutAreAnEarlierStateBeforeItIsLoaded) {
             Encode(SampleDraws(40)));
 }
 
+TEST(OwnRows, OfAFileThatOnlyGrewAreNoEarlierState) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.WriteDatabase(Encode(SampleDraws(41)));
+  desk.boxes.answers = {base::Answer::kYes};
+  Edit(desk, "49");
+  EXPECT_EQ(desk.Main().ListView1.RowCount(), 41);
+  EXPECT_EQ(desk.Desk().Earlier(), std::vector<std::string>());
+}
+
+TEST(OwnRows, AreKeptOnceAndNotBehindTheNextWindow) {
+  TestDesk desk;
+  StartQuietly(desk);
+  desk.WriteDatabase(Encode(SampleDraws(39)));
+  desk.boxes.answers = {base::Answer::kNo};
+  Edit(desk, "49");
+  desk.User().Close(desk.Main());
+  EXPECT_EQ(desk.TakeBoxTexts().size(), 2u);
+  desk.User().Choose(desk.Frame().MnuMainWindow);
+  EXPECT_EQ(desk.Main().ListView1.RowCount(), 39);
+  desk.User().Close(desk.Main());
+  EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>());
+}
+
 TEST(OpenDatabase, ALinkToAnEarlierStateStays) {
   TestDesk desk;
   const auto folder = desk.folder / "DataBases";

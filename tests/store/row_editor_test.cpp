@@ -112,6 +112,19 @@ TEST(RowEditor, ShowsTheRowThatTakesThePlaceOfARemovedOne) {
   EXPECT_EQ(desk.DatabaseBytes(), Encode(expected));
 }
 
+TEST(RowEditor, LeavesTheBoxesToAnEditOfTheSameDraw) {
+  TestDesk desk;
+  desk.Start();
+  desk.User().Pick(desk.Main().ListView1, 3);
+  desk.User().Click(desk.Main().cmdedit);
+  desk.User().Paste(desk.Main().TxtBall05, "48");
+  desk.User().DoubleClick(desk.Main().ListView1);
+  desk.User().Paste(desk.Main().TxtChange(5), "49");
+  desk.User().Click(desk.Main().Label18);
+  EXPECT_EQ(desk.Main().ListView1.Cell(3, 5), "49");
+  EXPECT_EQ(desk.Main().TxtBall05.Text(), "48");
+}
+
 // The selected row of the table was removed, which after a pick in the line list is another draw.
 TEST(RowEditor, RemovesTheDrawOnShow) {
   TestDesk desk;

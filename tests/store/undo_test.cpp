@@ -99,6 +99,16 @@ TEST_F(Undo, OfARowEdit) {
   EXPECT_EQ(desk_.TakeBoxTexts(), Texts());
 }
 
+TEST_F(Undo, ShowsADrawThatWasLookedAtWhileAdding) {
+  StartQuietly(desk_);
+  EditDraw(desk_, 3, "98");
+  desk_.User().Click(desk_.Main().cmdAdd);
+  desk_.User().Pick(desk_.Main().ListView1, 3);
+  EXPECT_EQ(desk_.Main().TxtBall06.Text(), "98");
+  EXPECT_EQ(TakeBack(), "Undone: Draw of 03/01/00 changed");
+  EXPECT_EQ(desk_.Main().TxtBall06.Text(), odd_[2].b[5]);
+}
+
 TEST_F(Undo, OfARemoval) {
   StartQuietly(desk_);
   RemoveRow(desk_, 3);
