@@ -13,9 +13,9 @@ constexpr float kGrowth = 10;
 
 void BallCounts::FillCommand4TagMainWindow() {
   const store::DrawRecord& draw = place_.session.current_draw;
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   for (int k = 0; k < store::kBalls; ++k) CountBall(draw.Ball(k));
-  for (int ball = 0; ball <= store::kLastBar; ++ball) {
+  for (int ball = 0; ball <= main_window::kLastBar; ++ball) {
     window.Label2(ball).SetNumber(window.ProgressBar1(ball).Value());
   }
 }
@@ -39,7 +39,7 @@ void BallCounts::GrowBars() {
 }
 
 void BallCounts::ZeroItMainWindow() {
-  for (int ball = 1; ball <= store::kLastBar; ++ball) {
+  for (int ball = 1; ball <= main_window::kLastBar; ++ball) {
     place_.window.ProgressBar1(ball).SetValue(0);
     place_.window.Label2(ball).SetCaption("0");
   }

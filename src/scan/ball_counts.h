@@ -2,14 +2,14 @@
 
 #include <string_view>
 
-#include "store/workplace.h"
+#include "main/workplace.h"
 
 namespace scan {
 
 // Counting into the bars, which are both the display and the store of the counts.
 class BallCounts {
  public:
-  explicit BallCounts(store::Workplace place) : place_(place) {}
+  explicit BallCounts(main_window::Workplace place) : place_(place) {}
 
   // Counts the draw in current_draw: seven balls, the bonus ball like any other; balls of 0 not.
   // Error 340 for a ball without a bar.
@@ -22,7 +22,7 @@ class BallCounts {
   void IncrementBar(base::Bar& bar);
   void GrowBars();
 
-  store::Workplace place_;
+  main_window::Workplace place_;
 };
 
 }  // namespace scan

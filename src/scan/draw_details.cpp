@@ -11,8 +11,8 @@ constexpr int kBonus = 6;
 
 // The captions of the ball in box k. `average_label` takes the average, of a bonus ball only its
 // whole part.
-void ShortFillTheMain(store::Workplace& place, int k) {
-  store::MainWindow& window = place.window;
+void ShortFillTheMain(main_window::Workplace& place, int k) {
+  main_window::MainWindow& window = place.window;
   const float number = place.session.current_draw_number;
   const std::string& box_text = window.BallBox(k).Text();
   const int ball = base::ToInt16(base::NumericValue(box_text));
@@ -39,7 +39,7 @@ void ShortFillTheMain(store::Workplace& place, int k) {
 
 }  // namespace
 
-void FillTheDetailsMainWindow(store::Workplace& place) {
+void FillTheDetailsMainWindow(main_window::Workplace& place) {
   if (place.session.current_draw.b[0].empty()) return;
   for (int k = 0; k < store::kBalls; ++k) {
     const bool always = k < 3;

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "store/workplace.h"
+#include "main/workplace.h"
 
 namespace scan {
 
 // Brings the detail captions of the balls on show up to date: text, count and average of each.
-void FillTheDetailsMainWindow(store::Workplace& place);
+void FillTheDetailsMainWindow(main_window::Workplace& place);
 
 }  // namespace scan

@@ -2,11 +2,11 @@
 
 #include "base/language/numbers.h"
 #include "base/language/text.h"
+#include "main/headings.h"
+#include "main/tips.h"
 #include "scan/due_list.h"
 #include "scan/frequency_report.h"
 #include "scan/ranking.h"
-#include "store/headings.h"
-#include "store/tips.h"
 
 namespace scan {
 namespace {
@@ -20,9 +20,9 @@ constexpr base::Colour kWhite = 0xFFFFFF;
 }  // namespace
 
 void Frequencies::Wire() {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   window.Combo11.on.click = [this] {
-    store::Trapped(place_.reporter, "Combo11_Click", [this] { Combo11_Click(); });
+    main_window::Trapped(place_.reporter, "Combo11_Click", [this] { Combo11_Click(); });
   };
   window.lblbuttons.Each([this](base::Label& button) {
     button.on.mouse_down = [this, index = button.Index()](base::MouseButton) {
@@ -32,7 +32,7 @@ void Frequencies::Wire() {
 }
 
 void Frequencies::BallFrequancysMainWindow() {
-  store::Trapped(place_.reporter, "BallFrequancysMainWindow", [this] { WriteReport(); });
+  main_window::Trapped(place_.reporter, "BallFrequancysMainWindow", [this] { WriteReport(); });
 }
 
 std::int16_t Frequencies::DrawsScanned() const {
@@ -48,14 +48,14 @@ std::int16_t Frequencies::DrawsScanned() const {
 }
 
 void Frequencies::WriteReport() {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   const std::string selected_date = base::Mid(window.List7.Text(), kDateColumn, kDateLength);
   if (window.OpScanRange.Value() && !selected_date.empty()) window.txtDate.SetTag(selected_date);
 
   std::string text = FrequencyHeading(window.txtDate.Tag(), window.txtDate.Text());
   std::int16_t draws = 0;
   try {
-    for (int ball = 1; ball <= store::kLastBar; ++ball) {
+    for (int ball = 1; ball <= main_window::kLastBar; ++ball) {
       const float count = window.ProgressBar1(ball).Value();
       if (count == 0) continue;
       draws = DrawsScanned();
@@ -72,7 +72,7 @@ void Frequencies::WriteReport() {
 }
 
 void Frequencies::MostCommonMainWindow() {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   window.LstMainWindowSorted.Clear();
   window.List3.Clear();
   window.TxtResultsBox2.SetVisible(true);
@@ -103,10 +103,10 @@ void Frequencies::SelectFirstCounted() {
 }
 
 void Frequencies::DueToAppearMainWindow(bool show_text) {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   store::Session& session = place_.session;
   window.List1.Clear();
-  for (int ball = 1; ball <= store::kLastBar; ++ball) {
+  for (int ball = 1; ball <= main_window::kLastBar; ++ball) {
     const float value = window.ProgressBar1(ball).Value();
     if (value == 0) continue;
     const std::int32_t count = base::ToInt32(value);
@@ -137,7 +137,7 @@ void Frequencies::ResetWorkTexts() {
 }
 
 void Frequencies::Combo11_Click() {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   store::Session& session = place_.session;
   const std::string& report = window.Combo11.Text();
   if (report == "List by frequencys") {
@@ -147,18 +147,18 @@ void Frequencies::Combo11_Click() {
     DueToAppearMainWindow(true);
   }
   session.data_base_name =
-      base::UpToFirst(store::DataBaseNameSetting(place_.World().settings), '.');
+      base::UpToFirst(main_window::DataBaseNameSetting(place_.World().settings), '.');
   place_.World().files.Replace(
       session.program_folder + "\\Databases\\" + session.data_base_name + " " + report + ".txt",
       window.TxtResultsBox.Text());
 }
 
 void Frequencies::lblbuttons_MouseDown(int index) {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   if (window.LstMainWindowSorted.ListCount() == 0) {
     place_.Ask({.text = "Please click scan before creating a wheel",
                 .title = "Not enough data to make wheel"});
-    if (place_.session.tips_on) store::ShowTip(place_.World().boxes, 7);
+    if (place_.session.tips_on) main_window::ShowTip(place_.World().boxes, 7);
     return;
   }
   if (index == 0) PrintReport();
@@ -171,7 +171,7 @@ void Frequencies::MakeWheel() {
 }
 
 void Frequencies::PrintReport() {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   window.lblbuttons(0).SetBackColor(kWhite);
   if (window.Combo11.Text() == "List by frequencys") {
     BallFrequancysMainWindow();
@@ -187,7 +187,7 @@ void Frequencies::PrintReport() {
 }
 
 void Frequencies::ScaleStep() {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   base::ListBox& ranking = window.LstMainWindowSorted;
   if (ranking.ListCount() < kRowsForScale) return;
   ranking.SetListIndex(ranking.ListCount() - 1);

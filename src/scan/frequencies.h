@@ -1,7 +1,7 @@
 #pragma once
 
+#include "main/workplace.h"
 #include "scan/graph.h"
-#include "store/workplace.h"
 
 namespace scan {
 
@@ -16,7 +16,7 @@ class Frequencies {
     virtual void HandOverToWheels() = 0;
   };
 
-  Frequencies(store::Workplace place, Graph& graph, Neighbours& neighbours)
+  Frequencies(main_window::Workplace place, Graph& graph, Neighbours& neighbours)
       : place_(place), graph_(graph), neighbours_(neighbours) {}
 
   void Wire();
@@ -39,7 +39,7 @@ class Frequencies {
   void SelectFirstCounted();
   void PrintReport();
 
-  store::Workplace place_;
+  main_window::Workplace place_;
   Graph& graph_;
   Neighbours& neighbours_;
 };

@@ -15,7 +15,7 @@ constexpr base::Colour kTabChosenText = 0xFF0000;
 }  // namespace
 
 void Graph::Wire() {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   window.Label3.on.click = [this] { Label3_Click(); };
   window.Label8.on.click = [this] { Label8_Click(); };
 }
@@ -61,7 +61,7 @@ void Graph::SetBand(base::Bar& bar, base::Band band) {
 }
 
 void Graph::DoBarBackColur(base::Colour colour) {
-  for (int ball = 1; ball <= store::kLastBar; ++ball) {
+  for (int ball = 1; ball <= main_window::kLastBar; ++ball) {
     place_.window.ProgressBar1(ball).SetBackColor(colour);
   }
 }
@@ -75,7 +75,7 @@ void Graph::MakeTheGraphInVisible() {
 }
 
 void Graph::ChangeColour(base::Label& tab) {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   for (base::Label* other : {&window.Label3, &window.Label4, &window.Label5, &window.Label8}) {
     other->SetBackColor(kTabIdle);
   }
@@ -83,7 +83,7 @@ void Graph::ChangeColour(base::Label& tab) {
 }
 
 void Graph::MoveThePictureBox(base::Panel& panel, base::Label& tab) {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   for (base::Panel* other :
        {&window.PicScanFilter, &window.Picture5, &window.Picture4, &window.Picture3}) {
     other->SetVisible(false);

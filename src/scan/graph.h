@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/workplace.h"
+#include "main/workplace.h"
 
 namespace scan {
 
@@ -8,7 +8,7 @@ namespace scan {
 // the side panels.
 class Graph {
  public:
-  explicit Graph(store::Workplace place) : place_(place) {}
+  explicit Graph(main_window::Workplace place) : place_(place) {}
 
   void Wire();
 
@@ -31,7 +31,7 @@ class Graph {
  private:
   base::Bar& BarOfRank(int rank);
 
-  store::Workplace place_;
+  main_window::Workplace place_;
 };
 
 // Blue in all three bands on white: the style of a first start.

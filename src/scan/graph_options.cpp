@@ -23,7 +23,7 @@ std::string BallText(std::string_view row) { return base::Mid(row, 5, 2); }
 }  // namespace
 
 void GraphOptions::Wire() {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   window.Label4.on.click = [this] { Label4_Click(); };
   window.Label5.on.click = [this] { Label5_Click(); };
   window.LstGraphStyles.on.click = [this] { LstGraphStyles_Click(); };
@@ -43,7 +43,7 @@ void GraphOptions::Wire() {
 }
 
 void GraphOptions::PopulateTheGraphLists() {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   if (window.LstGraphStyles.ListCount() > 0) return;
   for (const char* style : kStyles) window.LstGraphStyles.AddItem(style);
   for (const char* row : {"Refresh Graph", "Normal", "Low to high", "Show even", "Show odd"}) {
@@ -85,7 +85,7 @@ void GraphOptions::ChooseStyle(Style style) {
 // --- What is shown
 
 void GraphOptions::GraphDisplaySettings() {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   if (window.List3.ListCount() == 0) {
     place_.Ask({.text = "There is no data to work with, please use scan first"});
     return;
@@ -101,14 +101,14 @@ void GraphOptions::GraphDisplaySettings() {
 
 void GraphOptions::ShowCountedBars() {
   const base::Group<base::Bar>& bars = place_.window.ProgressBar1;
-  for (int ball = 0; ball <= store::kLastBar; ++ball) {
+  for (int ball = 0; ball <= main_window::kLastBar; ++ball) {
     bars(ball).SetVisible(true);
     if (bars(ball + 1).Value() == 0) return;
   }
 }
 
 bool GraphOptions::ApplyRow(const std::string& row) {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   if (row == "Refresh Graph") {
     RefreshGraph();
   } else if (row == "Normal") {
@@ -140,7 +140,7 @@ void GraphOptions::RefreshGraph() {
 
 // Gives bar i + 1 the count of row i, so that after sorting a bar stands for its row's ball.
 void GraphOptions::ShowRows(const base::ListBox& rows) {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   for (int i = 0; i < rows.ListCount(); ++i) {
     const std::string& row = rows.Row(i);
     window.ProgressBar1(i + 1).SetValue(CountOfRow(row));
@@ -162,7 +162,7 @@ void GraphOptions::ColourByRow(int rows) {
 }
 
 void GraphOptions::HideBars(int first, std::string_view digits) {
-  for (int ball = first; ball <= store::kLastBar; ++ball) {
+  for (int ball = first; ball <= main_window::kLastBar; ++ball) {
     base::Bar& bar = place_.window.ProgressBar1(ball);
     if (digits.find(base::SingleText(bar.Value()).back()) != std::string_view::npos) {
       bar.SetVisible(false);
@@ -171,7 +171,7 @@ void GraphOptions::HideBars(int first, std::string_view digits) {
 }
 
 void GraphOptions::WriteCounts(int first) {
-  for (int ball = first; ball <= store::kLastBar; ++ball) {
+  for (int ball = first; ball <= main_window::kLastBar; ++ball) {
     place_.window.Label2(ball).SetNumber(place_.window.ProgressBar1(ball).Value());
   }
 }
@@ -211,7 +211,7 @@ void GraphOptions::ShowMainWindowGraph() {
 // --- The mouse on the graph
 
 void GraphOptions::ProgressBar1_MouseDown(int index, base::MouseButton button) {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   if (window.CmdScan.Caption() != "Scan") return;
   if (button == base::MouseButton::kRight) {
     if (window.List3.ListCount() == 0) return;
@@ -224,7 +224,7 @@ void GraphOptions::ProgressBar1_MouseDown(int index, base::MouseButton button) {
 }
 
 void GraphOptions::ProgressBar1_MouseMove(int index) {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   base::Bar& bar = window.ProgressBar1(index);
   if (bar.Value() == 0) {
     window.TxtGraph.SetCaption("");
@@ -253,9 +253,9 @@ void GraphOptions::Label1_MouseMove(int index) {
 }
 
 void GraphOptions::HScroll1_Change() {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   const int width = window.HScroll1.Value();
-  for (int ball = 1; ball < store::kLastBar; ++ball) {
+  for (int ball = 1; ball < main_window::kLastBar; ++ball) {
     base::Bar& bar = window.ProgressBar1(ball);
     base::Bar& next = window.ProgressBar1(ball + 1);
     bar.SetWidth(width);
@@ -281,9 +281,9 @@ void GraphOptions::Label5_Click() {
 }
 
 void GraphOptions::StandardDeviation() {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   std::vector<float> counts;
-  for (int ball = 1; ball <= store::kLastBar; ++ball) {
+  for (int ball = 1; ball <= main_window::kLastBar; ++ball) {
     counts.push_back(window.ProgressBar1(ball).Value());
   }
   place_.Ask(

@@ -2,9 +2,9 @@
 
 #include <string_view>
 
+#include "main/browsing.h"
+#include "main/workplace.h"
 #include "scan/graph.h"
-#include "store/browsing.h"
-#include "store/workplace.h"
 
 namespace scan {
 
@@ -23,7 +23,7 @@ class GraphOptions {
   // A row of LstGraphStyles.
   enum class Style { kBlue, kColdWarmHot, kColdHot };
 
-  GraphOptions(store::Workplace place, store::Browsing& browsing, Graph& graph,
+  GraphOptions(main_window::Workplace place, main_window::Browsing& browsing, Graph& graph,
                Neighbours& neighbours)
       : place_(place), browsing_(browsing), graph_(graph), neighbours_(neighbours) {}
 
@@ -56,8 +56,8 @@ class GraphOptions {
   void HideBars(int first, std::string_view digits);
   void WriteCounts(int first);
 
-  store::Workplace place_;
-  store::Browsing& browsing_;
+  main_window::Workplace place_;
+  main_window::Browsing& browsing_;
   Graph& graph_;
   Neighbours& neighbours_;
 };

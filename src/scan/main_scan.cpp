@@ -6,8 +6,8 @@
 #include "base/language/error.h"
 #include "base/language/numbers.h"
 #include "base/language/text.h"
+#include "main/tips.h"
 #include "scan/draw_details.h"
-#include "store/tips.h"
 
 namespace scan {
 namespace {
@@ -35,7 +35,7 @@ const base::MessageBox kRulesChanged{
 // What the buttons that a scan disables were like before it.
 class MainScan::ButtonStates {
  public:
-  explicit ButtonStates(store::MainWindow& window)
+  explicit ButtonStates(main_window::MainWindow& window)
       : buttons_{&window.cmdAdd,  &window.cmdFirst, &window.cmdPrev,
                  &window.cmdNext, &window.cmdLast,  &window.lblbuttons(kMakeWheel)} {
     std::transform(buttons_.begin(), buttons_.end(), enabled_.begin(),
@@ -57,7 +57,7 @@ void MainScan::Wire() {
 void MainScan::CmdScan_Click() { StartOrStop(true); }
 
 void MainScan::StartOrStop(bool may_ask) {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   const ButtonStates buttons(window);
   window.Check1.SetValue(0);
   window.LabFilterCount.SetCaption("0");
@@ -80,7 +80,7 @@ void MainScan::StartOrStop(bool may_ask) {
 }
 
 void MainScan::StopSteps() {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   window.CmdScan.SetCaption(kIdle);
   window.lblbuttons(kMakeWheel).SetEnabled(true);
   browsing_.EnableTheButtons(true);
@@ -88,7 +88,7 @@ void MainScan::StopSteps() {
 }
 
 bool MainScan::ConfirmNewScan(const ButtonStates& buttons) {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   if (place_.Ask(kNewScan) != base::Answer::kYes) {
     place_.Yield();
     window.CmdScan.SetCaption(kIdle);
@@ -138,7 +138,7 @@ void MainScan::ShowWhereItStands() {
 
 MainScan::Pass MainScan::OnePass(int& first_scan_highest) {
   store::Session& session = place_.session;
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   place_.Yield();
   ReadNextDraw();
   CountDraw();
@@ -164,7 +164,7 @@ void MainScan::ReadNextDraw() {
 }
 
 void MainScan::CountDraw() {
-  const store::MainWindow& window = place_.window;
+  const main_window::MainWindow& window = place_.window;
   if (!window.OpScanRange.Value() ||
       place_.session.current_draw_number >= base::NumericValue(window.TxtStartDrawAt(0).Text())) {
     FillTag();
@@ -199,8 +199,8 @@ void MainScan::CheckRange(int& first_scan_highest) {
 
 void MainScan::ZeroStatistics() {
   store::Session& session = place_.session;
-  store::MainWindow& window = place_.window;
-  for (int ball = 0; ball <= store::kLastBar; ++ball) {
+  main_window::MainWindow& window = place_.window;
+  for (int ball = 0; ball <= main_window::kLastBar; ++ball) {
     const auto place = static_cast<std::size_t>(ball);
     window.ProgressBar1(ball).SetValue(0);
     window.ProgressBar1(ball).SetTag("0");
@@ -228,7 +228,7 @@ void MainScan::CountPositions() {
 
 void MainScan::ShowHiddenBoxes() {
   const store::Session& session = place_.session;
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   for (const int k : {5, 4, 3, 2}) {
     base::TextBox& box = window.BallBox(k);
     if (!box.Visible() && session.current_balls[static_cast<std::size_t>(k)] != 0) {
@@ -242,7 +242,7 @@ void MainScan::ShowHiddenBoxes() {
 
 void MainScan::Finish() {
   store::Session& session = place_.session;
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   frequencies_.DueToAppearMainWindow(false);
   window.txtRecNum.SetText(base::SingleText(session.current_draw_number - 2));
   for (int k = 0; k < kMainBalls; ++k) {
@@ -261,7 +261,7 @@ void MainScan::Finish() {
   window.lblbuttons(kMakeWheel).SetEnabled(true);
   browsing_.EnableTheButtons(true);
   frequencies_.ScaleStep();
-  if (session.tips_on) store::ShowTip(place_.World().boxes, 6);
+  if (session.tips_on) main_window::ShowTip(place_.World().boxes, 6);
 }
 
 void MainScan::TakeSnapshot() {

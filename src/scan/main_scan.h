@@ -1,11 +1,11 @@
 #pragma once
 
+#include "main/browsing.h"
+#include "main/entry.h"
+#include "main/workplace.h"
 #include "scan/ball_counts.h"
 #include "scan/frequencies.h"
 #include "scan/graph.h"
-#include "store/browsing.h"
-#include "store/entry.h"
-#include "store/workplace.h"
 
 namespace scan {
 
@@ -14,7 +14,7 @@ namespace scan {
 // nested, in one of the yields.
 class MainScan {
  public:
-  MainScan(store::Workplace place, store::Browsing& browsing, store::Entry& entry,
+  MainScan(main_window::Workplace place, main_window::Browsing& browsing, main_window::Entry& entry,
            BallCounts& counts, Graph& graph, Frequencies& frequencies)
       : place_(place),
         browsing_(browsing),
@@ -49,9 +49,9 @@ class MainScan {
   void Finish();
   void TakeSnapshot();
 
-  store::Workplace place_;
-  store::Browsing& browsing_;
-  store::Entry& entry_;
+  main_window::Workplace place_;
+  main_window::Browsing& browsing_;
+  main_window::Entry& entry_;
   BallCounts& counts_;
   Graph& graph_;
   Frequencies& frequencies_;

@@ -13,10 +13,10 @@ bool IsDigit(char key) { return key >= '0' && key <= '9'; }
 }  // namespace
 
 void ScanFilter::Wire() {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   const auto trapped = [this](const char* name, void (ScanFilter::*procedure)()) {
     return [this, name, procedure] {
-      store::Trapped(place_.reporter, name, [&] { (this->*procedure)(); });
+      main_window::Trapped(place_.reporter, name, [&] { (this->*procedure)(); });
     };
   };
   window.Option6.on.click = [this] { Option6_Click(); };
@@ -70,7 +70,7 @@ void ScanFilter::TxtStartDrawAt_KeyUp() {
 
 void ScanFilter::GoToStartDraw() {
   store::Session& session = place_.session;
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   base::TextBox& start = window.TxtStartDrawAt(0);
   if (base::NumericValue(start.Text()) > window.List7.ListCount() - 1) {
     start.SetText(base::IntegerText(window.List7.ListCount()));

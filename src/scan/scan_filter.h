@@ -1,17 +1,17 @@
 #pragma once
 
+#include "main/browsing.h"
+#include "main/entry.h"
+#include "main/workplace.h"
 #include "scan/frequencies.h"
-#include "store/browsing.h"
-#include "store/entry.h"
-#include "store/workplace.h"
 
 namespace scan {
 
 // What a scan takes in: all draws, a range of them, or one weekday.
 class ScanFilter {
  public:
-  ScanFilter(store::Workplace place, store::Browsing& browsing, store::Entry& entry,
-             Frequencies& frequencies)
+  ScanFilter(main_window::Workplace place, main_window::Browsing& browsing,
+             main_window::Entry& entry, Frequencies& frequencies)
       : place_(place), browsing_(browsing), entry_(entry), frequencies_(frequencies) {}
 
   void Wire();
@@ -25,9 +25,9 @@ class ScanFilter {
  private:
   void GoToStartDraw();
 
-  store::Workplace place_;
-  store::Browsing& browsing_;
-  store::Entry& entry_;
+  main_window::Workplace place_;
+  main_window::Browsing& browsing_;
+  main_window::Entry& entry_;
   Frequencies& frequencies_;
 };
 

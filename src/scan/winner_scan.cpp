@@ -25,7 +25,7 @@ void SortTwoBoxes(base::TextBox& first, base::TextBox& second) {
 }  // namespace
 
 void WinnerScan::Wire() {
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   window.Labscanwinners.on.click = [this] { Labscanwinners_Click(); };
   window.Txtb1.Each([](base::TextBox& box) {
     box.on.key_press = [](char& key) {
@@ -36,7 +36,7 @@ void WinnerScan::Wire() {
 
 void WinnerScan::Labscanwinners_Click() {
   store::Session& session = place_.session;
-  store::MainWindow& window = place_.window;
+  main_window::MainWindow& window = place_.window;
   SortNumbers();
   TakeNumbers();
 

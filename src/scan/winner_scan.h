@@ -1,13 +1,13 @@
 #pragma once
 
-#include "store/workplace.h"
+#include "main/workplace.h"
 
 namespace scan {
 
 // The panel "Combinations": how often a typed line would have won.
 class WinnerScan {
  public:
-  explicit WinnerScan(store::Workplace place) : place_(place) {}
+  explicit WinnerScan(main_window::Workplace place) : place_(place) {}
 
   void Wire();
   void Labscanwinners_Click();
@@ -18,7 +18,7 @@ class WinnerScan {
   void FillLines();
   void SelectLine(int row);
 
-  store::Workplace place_;
+  main_window::Workplace place_;
 };
 
 }  // namespace scan

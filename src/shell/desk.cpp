@@ -47,7 +47,7 @@ struct BallSelectorWindow : scan::FrmDropDown {
 
 struct FrameWindow : FrmMain {
   FrameWindow(base::Desktop& desktop, store::Session& session, Frame::Windows& windows,
-              store::ErrorReporter& reporter)
+              main_window::ErrorReporter& reporter)
       : procedures(*this, desktop, session, windows, reporter) {
     procedures.Wire();
   }
@@ -187,7 +187,7 @@ base::Form* Desk::Find(std::string_view name) {
 }
 
 FrmMain* Desk::Frame() { return parts_->frame.Peek(); }
-store::MainWindow* Desk::Main() { return parts_->main.Peek(); }
+main_window::MainWindow* Desk::Main() { return parts_->main.Peek(); }
 wheels::WheelWizard* Desk::Wheels() { return parts_->wheel.Peek(); }
 const wheels::WheelState& Desk::WheelState() const { return parts_->wheel_state; }
 

@@ -7,10 +7,10 @@
 
 #include "base/controls/desktop.h"
 #include "base/controls/user.h"
+#include "main/main_window.h"
 #include "shell/frame_window.h"
 #include "shell/notices.h"
 #include "shell/small_windows.h"
-#include "store/main_window.h"
 #include "store/session.h"
 #include "wheels/wheel_wizard.h"
 
@@ -40,7 +40,7 @@ class Desk {
   base::Form* Find(std::string_view name);
   // The instances that views are made for; null while they do not exist.
   FrmMain* Frame();
-  store::MainWindow* Main();
+  main_window::MainWindow* Main();
   wheels::WheelWizard* Wheels();
   // What the wheel window holds, or held when it was last open.
   const wheels::WheelState& WheelState() const;

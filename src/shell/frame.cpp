@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "base/language/numbers.h"
+#include "main/headings.h"
 #include "shell/preferences.h"
-#include "store/headings.h"
 #include "store/setting_names.h"
 
 namespace shell {
@@ -26,7 +26,7 @@ const base::MessageBox kNoHelp{
 
 void Frame::Wire() {
   const auto trapped = [this](const char* name, auto body) {
-    return [this, name, body] { store::Trapped(reporter_, name, body); };
+    return [this, name, body] { main_window::Trapped(reporter_, name, body); };
   };
   window_.on.load = trapped("MDIForm_Load", [this] { MDIForm_Load(); });
   window_.on.unload = [this] { MDIForm_Unload(); };
@@ -57,7 +57,7 @@ void Frame::MDIForm_Load() {
   base::Settings& settings = desktop_.World().settings;
   window_.PicTile.SetVisible(false);
   RestorePlacement();
-  const std::string name = store::DataBaseNameSetting(settings);
+  const std::string name = main_window::DataBaseNameSetting(settings);
   if (!name.empty()) window_.SetCaption(std::string(store::kWindowTitle) + name);
   ReadRegion(settings, session_);
   windows_.ShowMainWindow();
@@ -80,7 +80,7 @@ void Frame::RestorePlacement() {
 }
 
 void Frame::MDIForm_Unload() {
-  store::Trapped(reporter_, "MDIForm_Unload", [this] { StorePlacement(); });
+  main_window::Trapped(reporter_, "MDIForm_Unload", [this] { StorePlacement(); });
   UnloadAllWindows();
 }
 

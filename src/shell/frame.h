@@ -3,10 +3,10 @@
 #include <string>
 
 #include "base/controls/desktop.h"
+#include "main/workplace.h"
 #include "scan/graph_options.h"
 #include "shell/frame_window.h"
 #include "store/session.h"
-#include "store/workplace.h"
 
 namespace shell {
 
@@ -34,7 +34,7 @@ class Frame {
   };
 
   Frame(FrmMain& window, base::Desktop& desktop, store::Session& session, Windows& windows,
-        store::ErrorReporter& reporter)
+        main_window::ErrorReporter& reporter)
       : window_(window),
         desktop_(desktop),
         session_(session),
@@ -66,7 +66,7 @@ class Frame {
   base::Desktop& desktop_;
   store::Session& session_;
   Windows& windows_;
-  store::ErrorReporter& reporter_;
+  main_window::ErrorReporter& reporter_;
   std::string help_file_;
 };
 

@@ -1,11 +1,11 @@
 #include "shell/main_window_subjects.h"
 
-#include "store/draw_on_show.h"
+#include "main/draw_on_show.h"
 
 namespace shell {
 
 MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& desktop,
-                                       store::ErrorReporter& reporter, FrameSide& frame)
+                                       main_window::ErrorReporter& reporter, FrameSide& frame)
     : place_{session, *this, desktop, reporter},
       frame_(frame),
       counts_(place_),
@@ -23,7 +23,7 @@ MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& d
       scan_filter_(place_, browsing_, entry_, frequencies_),
       graph_options_(place_, browsing_, graph_, frame),
       winner_scan_(place_) {
-  on.load = [this] { store::Trapped(place_.reporter, "Form_Load", [this] { Form_Load(); }); };
+  on.load = [this] { main_window::Trapped(place_.reporter, "Form_Load", [this] { Form_Load(); }); };
   on.activate = [this] { loading_.Form_Activate(); };
   on.unload = [this] { Form_Unload(); };
   browsing_.Wire();
@@ -41,7 +41,7 @@ MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& d
 void MainWindowSubjects::Form_Load() {
   place_.session.data_base_changed = false;
   place_.session.shown_place = 0;
-  store::CloseRowEditor(place_.session, *this);
+  main_window::CloseRowEditor(place_.session, *this);
   // Nothing can be done to a draw before the first one is on show.
   cmdedit.SetEnabled(false);
   Command18.SetEnabled(false);
@@ -61,7 +61,7 @@ void MainWindowSubjects::ReloadBuffers() {
 }
 
 void MainWindowSubjects::PlaceLabels() {
-  for (int ball = 0; ball <= store::kLastBar; ++ball) {
+  for (int ball = 0; ball <= main_window::kLastBar; ++ball) {
     for (base::Label* label : {&Label1(ball), &Label2(ball)}) {
       label->SetLeft(ProgressBar1(ball).Left());
       label->SetWidth(ProgressBar1(ball).Width());

@@ -1,5 +1,13 @@
 #pragma once
 
+#include "main/browsing.h"
+#include "main/entry.h"
+#include "main/entry_boxes.h"
+#include "main/loading.h"
+#include "main/main_window.h"
+#include "main/row_editor.h"
+#include "main/undo.h"
+#include "main/working_copy.h"
 #include "scan/ball_counts.h"
 #include "scan/frequencies.h"
 #include "scan/graph.h"
@@ -7,21 +15,13 @@
 #include "scan/main_scan.h"
 #include "scan/scan_filter.h"
 #include "scan/winner_scan.h"
-#include "store/browsing.h"
-#include "store/entry.h"
-#include "store/entry_boxes.h"
-#include "store/loading.h"
-#include "store/main_window.h"
-#include "store/row_editor.h"
-#include "store/undo.h"
-#include "store/working_copy.h"
 
 namespace shell {
 
 // The main window together with the subjects that work in it.
-class MainWindowSubjects : public store::MainWindow,
-                           private store::Browsing::Neighbours,
-                           private store::Entry::Neighbours {
+class MainWindowSubjects : public main_window::MainWindow,
+                           private main_window::Browsing::Neighbours,
+                           private main_window::Entry::Neighbours {
  public:
   // `frame` is what loading asks of the frame; everything must outlive the window.
   class FrameSide : public scan::GraphOptions::Neighbours, public scan::Frequencies::Neighbours {
@@ -33,20 +33,20 @@ class MainWindowSubjects : public store::MainWindow,
   };
 
   MainWindowSubjects(store::Session& session, base::Desktop& desktop,
-                     store::ErrorReporter& reporter, FrameSide& frame);
+                     main_window::ErrorReporter& reporter, FrameSide& frame);
 
-  store::Browsing& Browsing() { return browsing_; }
+  main_window::Browsing& Browsing() { return browsing_; }
   scan::GraphOptions& GraphOptions() { return graph_options_; }
   scan::Frequencies& Frequencies() { return frequencies_; }
-  store::WorkingCopy& WorkingCopy() { return working_copy_; }
-  store::Undo& Undo() { return undo_; }
+  main_window::WorkingCopy& WorkingCopy() { return working_copy_; }
+  main_window::Undo& Undo() { return undo_; }
 
   void Form_Load();
   void Form_Unload();
 
  private:
   // Passes loading's wishes on to the frame and the graph.
-  class LoadingSide : public store::Loading::Neighbours {
+  class LoadingSide : public main_window::Loading::Neighbours {
    public:
     LoadingSide(FrameSide& frame, scan::Graph& graph) : frame_(frame), graph_(graph) {}
     void DoBarColors() override { graph_.DoBarColors(); }
@@ -63,22 +63,22 @@ class MainWindowSubjects : public store::MainWindow,
   void ReloadBuffers() override;
   void ZeroItMainWindow() override { counts_.ZeroItMainWindow(); }
   void FillCommand4TagMainWindow() override { counts_.FillCommand4TagMainWindow(); }
-  bool DoDataBase(const store::Edit& edit) override { return working_copy_.DoDataBase(edit); }
+  bool DoDataBase(const main_window::Edit& edit) override { return working_copy_.DoDataBase(edit); }
   void PlaceLabels();
 
-  store::Workplace place_;
+  main_window::Workplace place_;
   FrameSide& frame_;
   scan::BallCounts counts_;
   scan::Graph graph_;
   scan::Frequencies frequencies_;
   LoadingSide loading_side_;
-  store::Browsing browsing_;
-  store::Entry entry_;
-  store::EntryBoxes entry_boxes_;
-  store::RowEditor row_editor_;
-  store::WorkingCopy working_copy_;
-  store::Undo undo_;
-  store::Loading loading_;
+  main_window::Browsing browsing_;
+  main_window::Entry entry_;
+  main_window::EntryBoxes entry_boxes_;
+  main_window::RowEditor row_editor_;
+  main_window::WorkingCopy working_copy_;
+  main_window::Undo undo_;
+  main_window::Loading loading_;
   scan::MainScan main_scan_;
   scan::ScanFilter scan_filter_;
   scan::GraphOptions graph_options_;

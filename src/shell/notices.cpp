@@ -1,6 +1,6 @@
 #include "shell/notices.h"
 
-#include "store/draw_lists.h"
+#include "main/draw_lists.h"
 
 namespace shell {
 namespace {
@@ -17,7 +17,7 @@ std::vector<Notice> NoticesOf(const store::OpenDatabase& database) {
   if (!database.IsOpen()) return notices;
   if (database.Lock() == Access::kInUse) notices.push_back({kInUse});
   if (database.Lock() == Access::kNone) notices.push_back({kNoLock});
-  const std::string pending = store::PendingText(database.pending);
+  const std::string pending = main_window::PendingText(database.pending);
   if (!pending.empty()) {
     notices.push_back({pending + " not stored yet.", "Store now", Notice::Act::kStorePending});
   }

@@ -115,7 +115,7 @@ FrameView* App::Frame() {
 
 QWidget* App::MakeView(base::Form& form) {
   QWidget* const owner = frame_ && frame_->isVisible() ? frame_ : nullptr;
-  if (auto* const main = dynamic_cast<store::MainWindow*>(&form)) {
+  if (auto* const main = dynamic_cast<main_window::MainWindow*>(&form)) {
     return new MainWindowView(desk_, *main, nullptr);
   }
   if (auto* const selector = dynamic_cast<scan::FrmDropDown*>(&form)) {

@@ -6,7 +6,7 @@
 namespace test {
 namespace {
 
-void Count(store::MainWindow& window, int ball, float count) {
+void Count(main_window::MainWindow& window, int ball, float count) {
   window.ProgressBar1(ball).SetValue(count);
 }
 
@@ -63,7 +63,7 @@ TEST(Frequencies, ReportBeforeAScanIsItsHeading) {
 TEST(Frequencies, CountFromTheSelectedDrawOfARange) {
   TestDesk desk;
   OpenQuietly(desk);
-  store::MainWindow& window = desk.Main();
+  main_window::MainWindow& window = desk.Main();
   desk.User().Click(window.OpScanRange);
   desk.User().Pick(window.List7, 4);
   EXPECT_EQ(window.TxtStartDrawAt(0).Text(), "5");

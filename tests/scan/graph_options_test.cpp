@@ -185,7 +185,7 @@ TEST_F(ScannedGraph, WidensItsBars) {
 TEST(Panels, ShowOneAtATime) {
   TestDesk desk;
   desk.Start();
-  store::MainWindow& window = desk.Main();
+  main_window::MainWindow& window = desk.Main();
   EXPECT_TRUE(window.Picture4.Visible());
   EXPECT_FALSE(window.Picture3.Visible());
   desk.User().Click(window.Label4);

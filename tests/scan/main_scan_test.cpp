@@ -150,7 +150,7 @@ TEST(MainScan, ScansADayAfterAScanOfAll) {
 TEST(MainScan, SuspendsAtTheEndOfARange) {
   TestDesk desk(SevenBallDraws(40));
   desk.Start();
-  store::MainWindow& window = desk.Main();
+  main_window::MainWindow& window = desk.Main();
   desk.User().Click(window.OpScanRange);
   EXPECT_TRUE(window.Frame4.Visible());
   EXPECT_FALSE(window.Frame1.Visible());

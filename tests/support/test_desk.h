@@ -126,7 +126,7 @@ class TestDesk {
   // Starts a second process on the same folder and settings.
   void Restart();
   shell::Desk& Desk() { return *desk_; }
-  store::MainWindow& Main() { return *desk_->Main(); }
+  main_window::MainWindow& Main() { return *desk_->Main(); }
   store::Session& Session() { return desk_->Session(); }
   base::User& User() { return desk_->User(); }
   shell::FrmMain& Frame() { return *desk_->Frame(); }

@@ -31,7 +31,7 @@ QString NoticesOf(RunningDesk& desk) {
 }
 
 void Remove(RunningDesk& desk, int row) {
-  store::MainWindow& window = *desk.app->Desk().Main();
+  main_window::MainWindow& window = *desk.app->Desk().Main();
   desk.app->Desk().User().Pick(window.ListView1, row);
   desk.app->Desk().User().Click(window.Command18);
 }

@@ -112,7 +112,7 @@ class Player {
   void Type(const Draw& draw);
 
   // --- Seeing (player_sees.cpp)
-  store::MainWindow* Main() const { return desk_ ? desk_->Main() : nullptr; }
+  main_window::MainWindow* Main() const { return desk_ ? desk_->Main() : nullptr; }
   Fields InBoxes() const;
   Fields InPanel() const;
   Draws Lines() const;
@@ -150,7 +150,7 @@ class Player {
   std::unique_ptr<shell::Desk> desk_;
 
   std::vector<Running*> running_;
-  store::MainWindow* window_ = nullptr;  // the one known last
+  main_window::MainWindow* window_ = nullptr;  // the one known last
   Moment moment_;
   std::optional<std::string> held_;  // before another state was loaded in its place
   std::string kept_;                 // the earlier state kept last

@@ -99,7 +99,7 @@ void Player::PickRow() {
 }
 
 void Player::Browse() {
-  store::MainWindow& window = *Main();
+  main_window::MainWindow& window = *Main();
   Click(*world_.chance.OneOf<base::Button*>(
       {&window.cmdFirst, &window.cmdPrev, &window.cmdNext, &window.cmdLast}));
 }

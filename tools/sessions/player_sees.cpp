@@ -68,7 +68,7 @@ Draw Player::DrawOfRow(const base::ListView::Cells& cells) {
 
 // Another window has read the file anew.
 void Player::NoticeWindow() {
-  store::MainWindow* const main = Main();
+  main_window::MainWindow* const main = Main();
   if (main == window_) return;
   window_ = main;
   left_unstored_ = left_unstored_ || belief_.HasToStore();

@@ -69,7 +69,7 @@ class Scene {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
   base::User& User() { return app_->Desk().User(); }
-  store::MainWindow& Main() { return *app_->Desk().Main(); }
+  main_window::MainWindow& Main() { return *app_->Desk().Main(); }
   shell::FrmMain& Frame() { return *app_->Desk().Frame(); }
   QWidget* FrameView() { return app_->ViewOf(Frame()); }
   base::Form& Window(const char* name) { return *app_->Desk().Find(name); }

@@ -26,7 +26,8 @@ double Eased(double part) { return 1 - std::pow(1 - part, 3); }
 
 }  // namespace
 
-BarsView::BarsView(shell::Desk& desk, store::MainWindow& window, Binder& binder, QWidget* parent)
+BarsView::BarsView(shell::Desk& desk, main_window::MainWindow& window, Binder& binder,
+                   QWidget* parent)
     : QWidget(parent),
       desk_(desk),
       window_(&window),
@@ -41,7 +42,7 @@ BarsView::BarsView(shell::Desk& desk, store::MainWindow& window, Binder& binder,
   setAttribute(Qt::WA_OpaquePaintEvent);
   clock_->setInterval(kFrameMilliseconds);
   connect(clock_, &QTimer::timeout, this, &BarsView::Step);
-  for (int ball = 1; ball <= store::kLastBar; ++ball) Follow(binder, ball);
+  for (int ball = 1; ball <= main_window::kLastBar; ++ball) Follow(binder, ball);
   connect(&binder, &Binder::synced, this, &BarsView::Synced);
   connect(&binder, &Binder::detached, this, [this] {
     clock_->stop();
@@ -79,7 +80,7 @@ void BarsView::TakeDraw() {
 }
 
 void BarsView::TakeColumns() {
-  int last = store::kLastBar;
+  int last = main_window::kLastBar;
   while (last > kFewestColumns && window_->ProgressBar1(last).Value() <= 0) --last;
   std::size_t digits = 0;
   for (int ball = 1; ball <= last; ++ball) {

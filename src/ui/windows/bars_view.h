@@ -5,8 +5,8 @@
 #include <QWidget>
 #include <array>
 
+#include "main/main_window.h"
 #include "shell/desk.h"
-#include "store/main_window.h"
 #include "store/session.h"
 #include "ui/bind/binder.h"
 
@@ -20,7 +20,7 @@ class BarsView : public QWidget {
   Q_OBJECT
 
  public:
-  BarsView(shell::Desk& desk, store::MainWindow& window, Binder& binder, QWidget* parent);
+  BarsView(shell::Desk& desk, main_window::MainWindow& window, Binder& binder, QWidget* parent);
 
   // Balls 1 to this one have a column.
   int Columns() const { return columns_; }
@@ -83,7 +83,7 @@ class BarsView : public QWidget {
   void PaintLabels(QPainter& painter, const Column& column) const;
 
   shell::Desk& desk_;
-  store::MainWindow* window_;
+  main_window::MainWindow* window_;
   Binder& binder_;
   int columns_ = 0;
   int current_ = 0;
@@ -93,7 +93,7 @@ class BarsView : public QWidget {
   double zoom_ = 1;
   bool moving_ = false;
   std::size_t count_digits_ = 0;
-  std::array<Growth, store::kLastBar + 1> growth_{};
+  std::array<Growth, main_window::kLastBar + 1> growth_{};
   std::array<std::uint8_t, store::kBalls> balls_on_show_{};
   QTimer* clock_;
   QElapsedTimer growing_since_;

@@ -29,7 +29,7 @@ int BallSize() { return std::max(kBallSize, Theme::Current().Scaled(kBallPerText
 
 }  // namespace
 
-DrawHeader::DrawHeader(Binder& binder, store::MainWindow& window, QWidget* parent)
+DrawHeader::DrawHeader(Binder& binder, main_window::MainWindow& window, QWidget* parent)
     : QFrame(parent), window_(&window) {
   setProperty("card", true);
   const Theme& theme = Theme::Current();

@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-#include "store/main_window.h"
+#include "main/main_window.h"
 #include "ui/bind/binder.h"
 #include "ui/windows/ball_field.h"
 
@@ -16,7 +16,7 @@ namespace ui {
 // The draw on show with what browses and edits it.
 class DrawHeader : public QFrame {
  public:
-  DrawHeader(Binder& binder, store::MainWindow& window, QWidget* parent);
+  DrawHeader(Binder& binder, main_window::MainWindow& window, QWidget* parent);
 
  private:
   QBoxLayout* MakeBalls(Binder& binder);
@@ -29,7 +29,7 @@ class DrawHeader : public QFrame {
   void SetEditing();
   void Restyle();
 
-  store::MainWindow* window_;
+  main_window::MainWindow* window_;
   std::vector<BallField*> balls_;
   std::vector<QLineEdit*> date_fields_;
   std::vector<std::function<void()>> restyle_;

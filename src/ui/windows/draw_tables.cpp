@@ -90,7 +90,7 @@ QVBoxLayout* MakeColumn(QWidget* parent) {
 
 // --- Draw results
 
-DrawResultsPanel::DrawResultsPanel(Binder& binder, store::MainWindow& window, QWidget* parent)
+DrawResultsPanel::DrawResultsPanel(Binder& binder, main_window::MainWindow& window, QWidget* parent)
     : QWidget(parent), window_(window) {
   const Theme& theme = Theme::Current();
   auto* const column = MakeColumn(this);
@@ -214,7 +214,7 @@ void DrawResultsPanel::Restyle() {
 
 // --- Scan filter
 
-ScanFilterPanel::ScanFilterPanel(Binder& binder, store::MainWindow& window, QWidget* parent)
+ScanFilterPanel::ScanFilterPanel(Binder& binder, main_window::MainWindow& window, QWidget* parent)
     : QWidget(parent), window_(window) {
   const Theme& theme = Theme::Current();
   auto* const row = new QHBoxLayout(this);

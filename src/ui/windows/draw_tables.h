@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-#include "store/main_window.h"
+#include "main/main_window.h"
 #include "ui/bind/binder.h"
 
 class QBoxLayout;
@@ -18,7 +18,7 @@ namespace ui {
 // opens as a line of fields above the table.
 class DrawResultsPanel : public QWidget {
  public:
-  DrawResultsPanel(Binder& binder, store::MainWindow& window, QWidget* parent);
+  DrawResultsPanel(Binder& binder, main_window::MainWindow& window, QWidget* parent);
 
  private:
   QWidget* MakeTable(Binder& binder);
@@ -27,7 +27,7 @@ class DrawResultsPanel : public QWidget {
   QLineEdit* MakeRowField(Binder& binder, QWidget* editor, int cell);
   void Restyle();
 
-  store::MainWindow& window_;
+  main_window::MainWindow& window_;
   QTableView* table_ = nullptr;
   std::vector<std::function<void()>> restyle_;
 };
@@ -35,7 +35,7 @@ class DrawResultsPanel : public QWidget {
 // Which draws a scan reads, and how dates are read.
 class ScanFilterPanel : public QWidget {
  public:
-  ScanFilterPanel(Binder& binder, store::MainWindow& window, QWidget* parent);
+  ScanFilterPanel(Binder& binder, main_window::MainWindow& window, QWidget* parent);
 
  private:
   QWidget* MakeRange(Binder& binder);
@@ -43,7 +43,7 @@ class ScanFilterPanel : public QWidget {
   QWidget* MakeDays(Binder& binder);
   QWidget* MakeCountry(Binder& binder);
 
-  store::MainWindow& window_;
+  main_window::MainWindow& window_;
 };
 
 }  // namespace ui

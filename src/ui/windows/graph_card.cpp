@@ -93,7 +93,8 @@ QLabel* MakeDim(QLabel* label, Binder& binder, base::Label& control) {
 
 }  // namespace
 
-GraphCard::GraphCard(shell::Desk& desk, store::MainWindow& window, Binder& binder, QWidget* parent)
+GraphCard::GraphCard(shell::Desk& desk, main_window::MainWindow& window, Binder& binder,
+                     QWidget* parent)
     : QFrame(parent), window_(window), bars_(new BarsView(desk, window, binder, nullptr)) {
   setProperty("card", true);
   const Theme& theme = Theme::Current();

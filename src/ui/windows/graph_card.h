@@ -2,8 +2,8 @@
 
 #include <QFrame>
 
+#include "main/main_window.h"
 #include "shell/desk.h"
-#include "store/main_window.h"
 #include "ui/bind/binder.h"
 #include "ui/windows/bars_view.h"
 
@@ -15,13 +15,13 @@ namespace ui {
 // The graph with its heading, the key to its colours and the Scan button.
 class GraphCard : public QFrame {
  public:
-  GraphCard(shell::Desk& desk, store::MainWindow& window, Binder& binder, QWidget* parent);
+  GraphCard(shell::Desk& desk, main_window::MainWindow& window, Binder& binder, QWidget* parent);
 
  private:
   QBoxLayout* MakeHead(Binder& binder);
   QScrollArea* MakeStrip();
 
-  store::MainWindow& window_;
+  main_window::MainWindow& window_;
   BarsView* bars_;
 };
 

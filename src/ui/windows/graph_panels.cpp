@@ -22,7 +22,8 @@ constexpr int kFieldWidth = 46;
 
 // --- Combinations
 
-CombinationsPanel::CombinationsPanel(Binder& binder, store::MainWindow& window, QWidget* parent)
+CombinationsPanel::CombinationsPanel(Binder& binder, main_window::MainWindow& window,
+                                     QWidget* parent)
     : QWidget(parent), window_(window) {
   auto* const column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
@@ -62,7 +63,8 @@ QBoxLayout* CombinationsPanel::MakeNumbers(Binder& binder) {
 
 // --- Graph options
 
-GraphOptionsPanel::GraphOptionsPanel(Binder& binder, store::MainWindow& window, QWidget* parent)
+GraphOptionsPanel::GraphOptionsPanel(Binder& binder, main_window::MainWindow& window,
+                                     QWidget* parent)
     : QWidget(parent), window_(window) {
   auto* const row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);

@@ -27,7 +27,7 @@ constexpr int kReportShare = 4400;
 
 }  // namespace
 
-MainWindowView::MainWindowView(shell::Desk& desk, store::MainWindow& window, QWidget* parent)
+MainWindowView::MainWindowView(shell::Desk& desk, main_window::MainWindow& window, QWidget* parent)
     : QWidget(parent), window_(&window), binder_(desk, window, this) {
   setObjectName(QString::fromStdString(window.Name()));
   const int gap = Theme::Current().Space(Spacing::kGap);

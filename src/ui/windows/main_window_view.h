@@ -3,8 +3,8 @@
 #include <QWidget>
 #include <vector>
 
+#include "main/main_window.h"
 #include "shell/desk.h"
-#include "store/main_window.h"
 #include "ui/bind/binder.h"
 
 class QFrame;
@@ -17,7 +17,7 @@ namespace ui {
 // The main window: the draw on show, the graph, and below them the tabs and the report.
 class MainWindowView : public QWidget {
  public:
-  MainWindowView(shell::Desk& desk, store::MainWindow& window, QWidget* parent);
+  MainWindowView(shell::Desk& desk, main_window::MainWindow& window, QWidget* parent);
 
  private:
   struct Tab {
@@ -31,7 +31,7 @@ class MainWindowView : public QWidget {
   QWidget* MakePanel(const base::Panel& panel);
   void ShowTab();
 
-  store::MainWindow* window_;
+  main_window::MainWindow* window_;
   Binder binder_;
   std::vector<Tab> tabs_;
   QStackedWidget* panels_ = nullptr;

@@ -110,7 +110,7 @@ void RankingLine::paintEvent(QPaintEvent*) {
 
 // --- The card
 
-ReportPanel::ReportPanel(Binder& binder, store::MainWindow& window, QWidget* parent)
+ReportPanel::ReportPanel(Binder& binder, main_window::MainWindow& window, QWidget* parent)
     : QFrame(parent),
       window_(window),
       ranking_{new RankingLine(Role::kHot, this), new RankingLine(Role::kCold, this)} {

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <array>
 
-#include "store/main_window.h"
+#include "main/main_window.h"
 #include "ui/bind/binder.h"
 #include "ui/theme/theme.h"
 
@@ -44,12 +44,12 @@ class RankingLine : public QWidget {
 // The most and least common balls, and the report of the scan.
 class ReportPanel : public QFrame {
  public:
-  ReportPanel(Binder& binder, store::MainWindow& window, QWidget* parent);
+  ReportPanel(Binder& binder, main_window::MainWindow& window, QWidget* parent);
 
  private:
   void TakeRanking();
 
-  store::MainWindow& window_;
+  main_window::MainWindow& window_;
   std::array<RankingLine*, 2> ranking_;
 };
 

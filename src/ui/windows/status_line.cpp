@@ -51,7 +51,7 @@ QLabel* StatusLine::AddText(const char* name, const char* meaning) {
 }
 
 void StatusLine::Refresh() {
-  const store::MainWindow* const main = desk_.Main();
+  const main_window::MainWindow* const main = desk_.Main();
   const bool open = main && main->Loaded();
   const store::Session& session = desk_.Session();
   const QLocale numbers(QLocale::English);
