@@ -35,8 +35,7 @@ const base::MessageBox kEmptyBuffers{
 void Browsing::Wire() {
   MainWindow& window = place_.window;
   const auto trapped = [this](const char* name, void (Browsing::*procedure)()) {
-    return
-        [this, name, procedure] { Trapped(place_.reporter, name, [&] { (this->*procedure)(); }); };
+    return base::Trap(place_.reporter, name, *this, procedure);
   };
   window.cmdFirst.on.click = trapped("cmdFirst_Click", &Browsing::cmdFirst_Click);
   window.cmdPrev.on.click = trapped("cmdPrev_Click", &Browsing::cmdPrev_Click);
@@ -144,7 +143,7 @@ void Browsing::SetEntryButtons(bool enabled) {
 }
 
 void Browsing::FillFromListView() {
-  Trapped(place_.reporter, "FillFromListView", [&] {
+  base::Trapped(place_.reporter, "FillFromListView", [&] {
     if (place_.window.ListView1.RowCount() > 0) {
       ShowSelectedRow();
     } else {

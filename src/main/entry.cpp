@@ -34,8 +34,7 @@ void PutTheTextBoxsInOrder(base::TextBox& a, base::TextBox& b) {
 void Entry::Wire() {
   MainWindow& window = place_.window;
   const auto trapped = [this](const char* name, void (Entry::*procedure)()) {
-    return
-        [this, name, procedure] { Trapped(place_.reporter, name, [&] { (this->*procedure)(); }); };
+    return base::Trap(place_.reporter, name, *this, procedure);
   };
   window.cmdAdd.on.click = trapped("cmdAdd_Click", &Entry::cmdAdd_Click);
   window.cmdSave.on.click = trapped("cmdSave_Click", &Entry::cmdSave_Click);
@@ -122,7 +121,7 @@ void Entry::cmdSave_Click() {
   window.cmdAdd.SetEnabled(false);
   window.CmdReset.SetEnabled(false);
   bool saved = false;
-  Trapped(place_.reporter, "cmdSave_Click", [&] { saved = SaveTyped(); });
+  base::Trapped(place_.reporter, "cmdSave_Click", [&] { saved = SaveTyped(); });
   if (saved) {
     ShowSavedDraw();
     return;
@@ -257,7 +256,7 @@ void Entry::DoTextBox() {
 
 bool Entry::SaveNewRecord() {
   bool saved = false;
-  Trapped(place_.reporter, "SaveNewRecord", [&] {
+  base::Trapped(place_.reporter, "SaveNewRecord", [&] {
     DoTextBox();
     store::Session& session = place_.session;
     store::DrawRecord& draw = session.current_draw;

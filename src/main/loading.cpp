@@ -67,7 +67,7 @@ void Loading::ChooseDatabase() {
 }
 
 void Loading::LoadFirstDatabase() {
-  Trapped(place_.reporter, "LoadFirstDatabase", [&] {
+  base::Trapped(place_.reporter, "LoadFirstDatabase", [&] {
     store::Session& session = place_.session;
     base::Ports world = place_.World();
     ChooseDatabase();
@@ -96,7 +96,7 @@ void Loading::Form_Activate() {
   const base::Desktop::Hold hold(place_.desktop, place_.window);
   // What comes in the yield must not find the flags of an earlier window.
   ForgetChanges();
-  Trapped(place_.reporter, "Form_Activate", [&] {
+  base::Trapped(place_.reporter, "Form_Activate", [&] {
     store::Session& session = place_.session;
     MainWindow& window = place_.window;
     place_.Yield();

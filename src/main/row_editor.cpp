@@ -18,8 +18,7 @@ constexpr std::size_t kDateLength = 8;
 void RowEditor::Wire() {
   MainWindow& window = place_.window;
   const auto trapped = [this](const char* name, void (RowEditor::*procedure)()) {
-    return
-        [this, name, procedure] { Trapped(place_.reporter, name, [&] { (this->*procedure)(); }); };
+    return base::Trap(place_.reporter, name, *this, procedure);
   };
   window.ListView1.on.double_click = trapped("ListView1_DblClick", &RowEditor::ListView1_DblClick);
   window.Label18.on.click = trapped("Label18_Click", &RowEditor::Label18_Click);

@@ -11,7 +11,7 @@ std::string Undo::TakeBack() {
   if (place_.desktop.Depth() > 1 || place_.desktop.IsYielding()) return {};
   const base::Desktop::Hold hold(place_.desktop, place_.window);
   std::string told;
-  Trapped(place_.reporter, "Undo", [&] {
+  base::Trapped(place_.reporter, "Undo", [&] {
     if (!database.IsComplete()) return;
     const auto undoing = database.log.PlanUndo(database.Bytes());
     if (!undoing || !Apply(*undoing)) return;

@@ -76,7 +76,7 @@ void WorkingCopy::GoThroughLines() {
 bool WorkingCopy::Write(const Edit& edit) {
   store::OpenDatabase& database = place_.session.database;
   bool stored = false;
-  Trapped(place_.reporter, "DoDataBase", [&] {
+  base::Trapped(place_.reporter, "DoDataBase", [&] {
     const std::string before = database.Bytes();
     if (edit.bytes != before) {
       if (!guard_.MayWrite()) return;
@@ -97,7 +97,7 @@ bool WorkingCopy::Write(const Edit& edit) {
 void WorkingCopy::ShowEdited() {
   store::Session& session = place_.session;
   MainWindow& window = place_.window;
-  Trapped(place_.reporter, "DoDataBase", [&] {
+  base::Trapped(place_.reporter, "DoDataBase", [&] {
     window.tbar3.SetEnabled(false);
     window.cmdSave.SetEnabled(false);
     window.cmdClear.SetEnabled(false);
@@ -115,7 +115,7 @@ void WorkingCopy::RewriteFromTable() {
   store::OpenDatabase& database = session.database;
   if (!session.data_base_changed && !database.keeps_own_rows) return;
   if (!database.IsComplete()) return;
-  Trapped(place_.reporter, "Form_Unload", [&] {
+  base::Trapped(place_.reporter, "Form_Unload", [&] {
     const base::ListView& table = place_.window.ListView1;
     if (!IsWhole(table, database)) return TellNotWhole();
     const std::string bytes = BytesOfRows(table, session.current_draw.spare);
@@ -181,7 +181,7 @@ void WorkingCopy::StorePending() {
   // The places of the draws are not changed under a procedure that walks through them.
   if (database.pending.empty() || place_.desktop.IsYielding()) return;
   const base::Desktop::Hold hold(place_.desktop, place_.window);
-  Trapped(place_.reporter, "StorePending", [&] {
+  base::Trapped(place_.reporter, "StorePending", [&] {
     if (!IsWhole(table, database)) return TellNotWhole();
     const std::string before = database.Bytes();
     const std::string bytes = BytesOfRows(table, session.current_draw.spare);

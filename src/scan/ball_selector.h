@@ -3,9 +3,9 @@
 #include <array>
 #include <string>
 
-#include "base/controls/desktop.h"
 #include "base/controls/group.h"
 #include "base/controls/simple_controls.h"
+#include "base/windows/desktop.h"
 #include "store/session.h"
 
 namespace scan {

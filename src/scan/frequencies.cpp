@@ -21,9 +21,8 @@ constexpr base::Colour kWhite = 0xFFFFFF;
 
 void Frequencies::Wire() {
   main_window::MainWindow& window = place_.window;
-  window.Combo11.on.click = [this] {
-    main_window::Trapped(place_.reporter, "Combo11_Click", [this] { Combo11_Click(); });
-  };
+  window.Combo11.on.click =
+      base::Trap(place_.reporter, "Combo11_Click", *this, &Frequencies::Combo11_Click);
   window.lblbuttons.Each([this](base::Label& button) {
     button.on.mouse_down = [this, index = button.Index()](base::MouseButton) {
       lblbuttons_MouseDown(index);
@@ -32,7 +31,7 @@ void Frequencies::Wire() {
 }
 
 void Frequencies::BallFrequancysMainWindow() {
-  main_window::Trapped(place_.reporter, "BallFrequancysMainWindow", [this] { WriteReport(); });
+  base::Trapped(place_.reporter, "BallFrequancysMainWindow", [this] { WriteReport(); });
 }
 
 std::int16_t Frequencies::DrawsScanned() const {

@@ -15,9 +15,7 @@ bool IsDigit(char key) { return key >= '0' && key <= '9'; }
 void ScanFilter::Wire() {
   main_window::MainWindow& window = place_.window;
   const auto trapped = [this](const char* name, void (ScanFilter::*procedure)()) {
-    return [this, name, procedure] {
-      main_window::Trapped(place_.reporter, name, [&] { (this->*procedure)(); });
-    };
+    return base::Trap(place_.reporter, name, *this, procedure);
   };
   window.Option6.on.click = [this] { Option6_Click(); };
   window.OpScanRange.on.click = [this] { OpScanRange_Click(); };

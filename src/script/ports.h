@@ -103,14 +103,19 @@ struct ScriptedPorts {
   LoggedShell shell;
   LoggedMail mail;
   LoggedPrinter printer;
-  base::HelpViewer help;
-  base::SystemInformation system_information;
   ChosenRegion region;
 
   base::Ports All(base::FileSystem& files, base::Settings& settings) {
-    return base::Ports{
-        boxes,  pump,  clock,   beeper, shell, mail, printer, help, system_information,
-        region, files, settings};
+    return {.boxes = boxes,
+            .pump = pump,
+            .clock = clock,
+            .beeper = beeper,
+            .shell = shell,
+            .mail = mail,
+            .printer = printer,
+            .region = region,
+            .files = files,
+            .settings = settings};
   }
 };
 

@@ -12,6 +12,14 @@
 namespace shell {
 namespace {
 
+constexpr const char* kSplash = "frmSplash";
+constexpr const char* kFrame = "frmMain";
+constexpr const char* kMain = "MainWindow";
+constexpr const char* kOptions = "FrmOptions";
+constexpr const char* kAbout = "frmAbout";
+constexpr const char* kBallSelector = "FrmDropDown";
+constexpr const char* kWheel = "FrmTxt";
+
 // The small windows, each with its procedures.
 
 struct SplashWindow : FrmSplash {
@@ -47,104 +55,138 @@ struct BallSelectorWindow : scan::FrmDropDown {
 
 struct FrameWindow : FrmMain {
   FrameWindow(base::Desktop& desktop, store::Session& session, Frame::Windows& windows,
-              main_window::ErrorReporter& reporter)
+              base::ErrorReporter& reporter)
       : procedures(*this, desktop, session, windows, reporter) {
     procedures.Wire();
   }
   Frame procedures;
 };
 
+// The windows that the desk's own procedures work in, as what they are.
+struct Windows {
+  explicit Windows(base::Desktop& of) : desktop(of) {}
+  base::Desktop& desktop;
+  base::WindowOf<SplashWindow> splash{desktop, kSplash};
+  base::WindowOf<FrameWindow> frame{desktop, kFrame};
+  base::WindowOf<MainWindowSubjects> main{desktop, kMain};
+  base::WindowOf<wheels::WheelWizard> wheel{desktop, kWheel};
+};
+
+// What the frame asks of the windows that it opens.
+class FrameNeighbours : public Frame::Windows {
+ public:
+  explicit FrameNeighbours(const shell::Windows& windows) : windows_(windows) {}
+  void ShowMainWindow() override {
+    MainWindowSubjects& window = windows_.main.Get();
+    window.Move(0, 0);
+    windows_.desktop.Show(window);
+  }
+  void ShowOptions() override { windows_.desktop.Show(kOptions); }
+  void ShowAbout() override { windows_.desktop.Show(kAbout); }
+  void ShowBallSelector() override { windows_.desktop.Show(kBallSelector); }
+  void FillFromListView() override {
+    if (MainWindowSubjects* window = windows_.main.Peek()) window->Browsing().FillFromListView();
+  }
+  void MakeWheel() override {
+    if (MainWindowSubjects* window = windows_.main.Peek()) {
+      window->Frequencies().MakeWheel();
+    } else {
+      windows_.wheel.Get().TakeOver({});
+    }
+  }
+  void ShowWheelWindow() override { windows_.wheel.Get().ShowAlone(); }
+  void StandardDeviation() override {
+    if (MainWindowSubjects* window = windows_.main.Peek()) {
+      window->GraphOptions().StandardDeviation();
+    }
+  }
+  bool GraphStylesFilled() override {
+    MainWindowSubjects* const window = windows_.main.Peek();
+    return window && window->LstGraphStyles.ListCount() > 0;
+  }
+  void ChooseStyle(scan::GraphOptions::Style style) override {
+    windows_.main.Get().GraphOptions().ChooseStyle(style);
+  }
+
+ private:
+  const shell::Windows& windows_;
+};
+
+// What the main window asks of the frame and of the wheels.
+class MainWindowNeighbours : public MainWindowSubjects::FrameSide {
+ public:
+  explicit MainWindowNeighbours(const Windows& windows) : windows_(windows) {}
+  void SaveMenus() override { Procedures().SaveMenus(); }
+  void DoMenus() override { Procedures().DoMenus(); }
+  void MarkMainWindow(bool in_use) override { Procedures().MarkMainWindow(in_use); }
+  void SetHelpFile(const std::string& path) override { Procedures().SetHelpFile(path); }
+  void ShowStatus(const std::string& text) override {
+    windows_.frame.Get().lblStatus.SetCaption(text);
+  }
+  void PopUpGraphMenu() override { windows_.desktop.View().PopUp(windows_.frame.Get().MnuGraph); }
+  void HandOverToWheels() override {
+    windows_.wheel.Get().TakeOver(wheels::TemperatureEntries(windows_.main.Get().ProgressBar1));
+  }
+
+ private:
+  Frame& Procedures() { return windows_.frame.Get().procedures; }
+
+  const Windows& windows_;
+};
+
+// What the wheel window asks of the frame.
+class WheelNeighbours : public wheels::WheelWizard::FrameSide {
+ public:
+  explicit WheelNeighbours(const Windows& windows) : windows_(windows) {}
+  void MarkWheelWindow(bool in_use) override {
+    windows_.frame.Get().procedures.MarkWheelWindow(in_use);
+  }
+  void SetHelpFile(const std::string& path) override {
+    windows_.frame.Get().procedures.SetHelpFile(path);
+  }
+
+ private:
+  const Windows& windows_;
+};
+
 }  // namespace
 
-class Desk::Parts : public Frame::Windows,
-                    public MainWindowSubjects::FrameSide,
-                    public wheels::WheelWizard::FrameSide {
- public:
+struct Desk::Parts {
   Parts(base::Ports ports, std::string program_folder)
-      : desktop(ports),
-        user(desktop),
-        session(ports.files),
-        reporter(ports, Version{}),
-        splash([this] {
-          return std::make_shared<SplashWindow>(desktop, session, Version{},
-                                                [this] { desktop.Show(frame.Get()); });
-        }),
-        frame([this] { return std::make_shared<FrameWindow>(desktop, session, *this, reporter); }),
-        main([this] {
-          return std::make_shared<MainWindowSubjects>(session, desktop, reporter, *this);
-        }),
-        options([this] { return std::make_shared<OptionsWindow>(desktop, session); }),
-        about([this] { return std::make_shared<AboutWindow>(desktop, Version{}); }),
-        selector([this] { return std::make_shared<BallSelectorWindow>(session); }),
-        wheel([this] {
-          return std::make_shared<wheels::WheelWizard>(session, desktop, wheel_state, *this);
-        }) {
+      : desktop(ports), user(desktop), session(ports.files), reporter(ports, Version{}) {
     session.program_folder = std::move(program_folder);
-    desktop.on_closed = [this](base::Form& form) { Release(form); };
+    AddWindows();
   }
 
   base::Desktop desktop;
   base::User user;
   store::Session session;
   DeskErrorReporter reporter;
-  base::WindowSlot<SplashWindow> splash;
-  base::WindowSlot<FrameWindow> frame;
-  base::WindowSlot<MainWindowSubjects> main;
-  base::WindowSlot<OptionsWindow> options;
-  base::WindowSlot<AboutWindow> about;
-  base::WindowSlot<BallSelectorWindow> selector;
   wheels::WheelState wheel_state;
-  base::WindowSlot<wheels::WheelWizard> wheel;
+  const Windows windows{desktop};
+  FrameNeighbours of_frame{windows};
+  MainWindowNeighbours of_main{windows};
+  WheelNeighbours of_wheel{windows};
 
  private:
-  void Release(base::Form& form) {
-    splash.Release(form, desktop) || frame.Release(form, desktop) || main.Release(form, desktop) ||
-        options.Release(form, desktop) || about.Release(form, desktop) ||
-        selector.Release(form, desktop) || wheel.Release(form, desktop);
+  void AddWindows() {
+    desktop.Add(kSplash, [this] {
+      return std::make_shared<SplashWindow>(desktop, session, Version{},
+                                            [this] { desktop.Show(kFrame); });
+    });
+    desktop.Add(kFrame, [this] {
+      return std::make_shared<FrameWindow>(desktop, session, of_frame, reporter);
+    });
+    desktop.Add(kMain, [this] {
+      return std::make_shared<MainWindowSubjects>(session, desktop, reporter, of_main);
+    });
+    desktop.Add(kOptions, [this] { return std::make_shared<OptionsWindow>(desktop, session); });
+    desktop.Add(kAbout, [this] { return std::make_shared<AboutWindow>(desktop, Version{}); });
+    desktop.Add(kBallSelector, [this] { return std::make_shared<BallSelectorWindow>(session); });
+    desktop.Add(kWheel, [this] {
+      return std::make_shared<wheels::WheelWizard>(session, desktop, wheel_state, of_wheel);
+    });
   }
-
-  // What the frame asks for.
-  void ShowMainWindow() override {
-    MainWindowSubjects& window = main.Get();
-    window.Move(0, 0);
-    desktop.Show(window);
-  }
-  void ShowOptions() override { desktop.Show(options.Get()); }
-  void ShowAbout() override { desktop.Show(about.Get()); }
-  void FillFromListView() override {
-    if (MainWindowSubjects* window = main.Peek()) window->Browsing().FillFromListView();
-  }
-
-  void MakeWheel() override {
-    if (MainWindowSubjects* window = main.Peek()) {
-      window->Frequencies().MakeWheel();
-    } else {
-      wheel.Get().TakeOver({});
-    }
-  }
-  void ShowWheelWindow() override { wheel.Get().ShowAlone(); }
-  void ShowBallSelector() override { desktop.Show(selector.Get()); }
-  void StandardDeviation() override {
-    if (MainWindowSubjects* window = main.Peek()) window->GraphOptions().StandardDeviation();
-  }
-  bool GraphStylesFilled() override {
-    return main.Peek() && main.Peek()->LstGraphStyles.ListCount() > 0;
-  }
-  void ChooseStyle(scan::GraphOptions::Style style) override {
-    main.Get().GraphOptions().ChooseStyle(style);
-  }
-
-  // What the main window asks of the frame.
-  void SaveMenus() override { frame.Get().procedures.SaveMenus(); }
-  void PopUpGraphMenu() override { desktop.View().PopUp(frame.Get().MnuGraph); }
-  void HandOverToWheels() override {
-    wheel.Get().TakeOver(wheels::TemperatureEntries(main.Get().ProgressBar1));
-  }
-  void DoMenus() override { frame.Get().procedures.DoMenus(); }
-  void MarkMainWindow(bool in_use) override { frame.Get().procedures.MarkMainWindow(in_use); }
-  void MarkWheelWindow(bool in_use) override { frame.Get().procedures.MarkWheelWindow(in_use); }
-  void ShowStatus(const std::string& text) override { frame.Get().lblStatus.SetCaption(text); }
-  void SetHelpFile(const std::string& path) override { frame.Get().procedures.SetHelpFile(path); }
 };
 
 Desk::Desk(base::Ports ports, std::string program_folder)
@@ -154,7 +196,7 @@ Desk::~Desk() = default;
 
 void Desk::Start() {
   TellUnreadableSettings();
-  parts_->desktop.Dispatch([this] { parts_->desktop.Show(parts_->splash.Get()); });
+  parts_->desktop.Dispatch([this] { parts_->desktop.Show(kSplash); });
 }
 
 // Once, before anything else: nothing that is changed in this run will be kept.
@@ -169,7 +211,7 @@ void Desk::TellUnreadableSettings() {
 
 void Desk::Stop() {
   base::Form* window = Frame();
-  if (!window) window = parts_->splash.Peek();
+  if (!window) window = parts_->windows.splash.Peek();
   if (window) parts_->user.Close(*window);
 }
 
@@ -186,22 +228,24 @@ base::Form* Desk::Find(std::string_view name) {
   return nullptr;
 }
 
-FrmMain* Desk::Frame() { return parts_->frame.Peek(); }
-main_window::MainWindow* Desk::Main() { return parts_->main.Peek(); }
-wheels::WheelWizard* Desk::Wheels() { return parts_->wheel.Peek(); }
+FrmMain* Desk::Frame() { return parts_->windows.frame.Peek(); }
+main_window::MainWindow* Desk::Main() { return parts_->windows.main.Peek(); }
+wheels::WheelWizard* Desk::Wheels() { return parts_->windows.wheel.Peek(); }
 const wheels::WheelState& Desk::WheelState() const { return parts_->wheel_state; }
 
 void Desk::StorePending() {
   parts_->desktop.Dispatch([this] {
-    if (MainWindowSubjects* const window = parts_->main.Peek())
+    if (MainWindowSubjects* const window = parts_->windows.main.Peek()) {
       window->WorkingCopy().StorePending();
+    }
   });
 }
 
 std::string Desk::Undo() {
   std::string told;
   parts_->desktop.Dispatch([&] {
-    if (MainWindowSubjects* const window = parts_->main.Peek()) told = window->Undo().TakeBack();
+    if (MainWindowSubjects* const window = parts_->windows.main.Peek())
+      told = window->Undo().TakeBack();
   });
   return told;
 }
@@ -215,7 +259,7 @@ bool Desk::TryForLock() {
 }
 
 std::vector<Notice> Desk::Notices() {
-  if (!parts_->main.Peek()) return {};
+  if (!parts_->windows.main.Peek()) return {};
   return NoticesOf(parts_->session.database);
 }
 

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "base/controls/desktop.h"
 #include "base/controls/user.h"
+#include "base/windows/desktop.h"
 #include "main/main_window.h"
 #include "shell/frame_window.h"
 #include "shell/notices.h"
@@ -60,7 +60,7 @@ class Desk {
  private:
   void TellUnreadableSettings();
 
-  class Parts;
+  struct Parts;
   std::unique_ptr<Parts> parts_;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/controls/desktop.h"
+#include "base/windows/desktop.h"
 #include "shell/small_windows.h"
 #include "shell/version.h"
 #include "store/session.h"

@@ -25,7 +25,7 @@ std::string ErrorDetails(const ErrorReport& report);
 
 // The end of every trap: tells the user what failed, where, and offers to mail it. Never throws an
 // Error; a mail that cannot be sent is passed over in silence.
-class DeskErrorReporter : public main_window::ErrorReporter {
+class DeskErrorReporter : public base::ErrorReporter {
  public:
   DeskErrorReporter(base::Ports ports, Version version) : ports_(ports), version_(version) {}
   void Report(std::string_view procedure, const base::Error& error) override;

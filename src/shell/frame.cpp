@@ -1,7 +1,5 @@
 #include "shell/frame.h"
 
-#include <vector>
-
 #include "base/language/numbers.h"
 #include "main/headings.h"
 #include "shell/preferences.h"
@@ -26,7 +24,7 @@ const base::MessageBox kNoHelp{
 
 void Frame::Wire() {
   const auto trapped = [this](const char* name, auto body) {
-    return [this, name, body] { main_window::Trapped(reporter_, name, body); };
+    return base::Trap(reporter_, name, body);
   };
   window_.on.load = trapped("MDIForm_Load", [this] { MDIForm_Load(); });
   window_.on.unload = [this] { MDIForm_Unload(); };
@@ -80,8 +78,8 @@ void Frame::RestorePlacement() {
 }
 
 void Frame::MDIForm_Unload() {
-  main_window::Trapped(reporter_, "MDIForm_Unload", [this] { StorePlacement(); });
-  UnloadAllWindows();
+  base::Trapped(reporter_, "MDIForm_Unload", [this] { StorePlacement(); });
+  desktop_.UnloadAllBut(window_);
 }
 
 void Frame::StorePlacement() {
@@ -94,18 +92,6 @@ void Frame::StorePlacement() {
   save("MainTop", window_.Top());
   save("MainWidth", window_.Width());
   save("MainHeight", window_.Height());
-}
-
-void Frame::UnloadAllWindows() {
-  const std::vector<base::Form*> windows = desktop_.LoadOrder();
-  for (auto form = windows.rbegin(); form != windows.rend(); ++form) {
-    if (*form == &window_) continue;
-    try {
-      desktop_.Unload(**form);
-    } catch (const base::Error&) {
-      // One window that fails to close must not keep the others open.
-    }
-  }
 }
 
 void Frame::DoMenus() {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "base/controls/desktop.h"
+#include "base/windows/desktop.h"
 #include "main/workplace.h"
 #include "scan/graph_options.h"
 #include "shell/frame_window.h"
@@ -34,7 +34,7 @@ class Frame {
   };
 
   Frame(FrmMain& window, base::Desktop& desktop, store::Session& session, Windows& windows,
-        main_window::ErrorReporter& reporter)
+        base::ErrorReporter& reporter)
       : window_(window),
         desktop_(desktop),
         session_(session),
@@ -45,7 +45,6 @@ class Frame {
 
   void MDIForm_Load();
   void MDIForm_Unload();
-  void UnloadAllWindows();
   // Sets the four graph ticks from the settings, and the flags from the ticks.
   void DoMenus();
   // Stores the four ticks, and sets the flags from them.
@@ -66,7 +65,7 @@ class Frame {
   base::Desktop& desktop_;
   store::Session& session_;
   Windows& windows_;
-  main_window::ErrorReporter& reporter_;
+  base::ErrorReporter& reporter_;
   std::string help_file_;
 };
 

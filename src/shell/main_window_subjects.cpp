@@ -5,7 +5,7 @@
 namespace shell {
 
 MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& desktop,
-                                       main_window::ErrorReporter& reporter, FrameSide& frame)
+                                       base::ErrorReporter& reporter, FrameSide& frame)
     : place_{session, *this, desktop, reporter},
       frame_(frame),
       counts_(place_),
@@ -23,7 +23,7 @@ MainWindowSubjects::MainWindowSubjects(store::Session& session, base::Desktop& d
       scan_filter_(place_, browsing_, entry_, frequencies_),
       graph_options_(place_, browsing_, graph_, frame),
       winner_scan_(place_) {
-  on.load = [this] { main_window::Trapped(place_.reporter, "Form_Load", [this] { Form_Load(); }); };
+  on.load = base::Trap(place_.reporter, "Form_Load", *this, &MainWindowSubjects::Form_Load);
   on.activate = [this] { loading_.Form_Activate(); };
   on.unload = [this] { Form_Unload(); };
   browsing_.Wire();

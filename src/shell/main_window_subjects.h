@@ -32,8 +32,8 @@ class MainWindowSubjects : public main_window::MainWindow,
     virtual void SetHelpFile(const std::string& path) = 0;
   };
 
-  MainWindowSubjects(store::Session& session, base::Desktop& desktop,
-                     main_window::ErrorReporter& reporter, FrameSide& frame);
+  MainWindowSubjects(store::Session& session, base::Desktop& desktop, base::ErrorReporter& reporter,
+                     FrameSide& frame);
 
   main_window::Browsing& Browsing() { return browsing_; }
   scan::GraphOptions& GraphOptions() { return graph_options_; }

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "base/controls/desktop.h"
+#include "base/windows/desktop.h"
 #include "shell/small_windows.h"
 #include "shell/version.h"
 #include "store/session.h"

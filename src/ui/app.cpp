@@ -11,14 +11,9 @@
 #include "shell/program_folder.h"
 #include "ui/bind/binder.h"
 #include "ui/theme/theme.h"
-#include "ui/windows/about_view.h"
-#include "ui/windows/ball_selector_view.h"
+#include "ui/views.h"
 #include "ui/windows/frame_view.h"
-#include "ui/windows/main_window_view.h"
 #include "ui/windows/message_dialog.h"
-#include "ui/windows/options_view.h"
-#include "ui/windows/splash_view.h"
-#include "ui/windows/wheel_view.h"
 
 namespace ui {
 namespace {
@@ -113,29 +108,6 @@ FrameView* App::Frame() {
   return frame_;
 }
 
-QWidget* App::MakeView(base::Form& form) {
-  QWidget* const owner = frame_ && frame_->isVisible() ? frame_ : nullptr;
-  if (auto* const main = dynamic_cast<main_window::MainWindow*>(&form)) {
-    return new MainWindowView(desk_, *main, nullptr);
-  }
-  if (auto* const selector = dynamic_cast<scan::FrmDropDown*>(&form)) {
-    return new BallSelectorView(desk_, *selector, nullptr);
-  }
-  if (auto* const wheel = dynamic_cast<wheels::FrmTxt*>(&form)) {
-    return new WheelView(desk_, *wheel, nullptr);
-  }
-  if (auto* const splash = dynamic_cast<shell::FrmSplash*>(&form)) {
-    return new SplashView(desk_, *splash, owner);
-  }
-  if (auto* const options = dynamic_cast<shell::FrmOptions*>(&form)) {
-    return new OptionsView(desk_, *options, owner);
-  }
-  if (auto* const about = dynamic_cast<shell::FrmAbout*>(&form)) {
-    return new AboutView(desk_, *about, owner);
-  }
-  return nullptr;
-}
-
 QWidget* App::ViewOf(base::Form& form) const {
   if (form.Role() == base::FormRole::kFrame) return frame_;
   const auto found = views_.find(&form);
@@ -149,7 +121,8 @@ void App::Shown(base::Form& form) {
     return;
   }
   FrameView* const frame = form.Role() == base::FormRole::kChild ? Frame() : nullptr;
-  QWidget* const view = MakeView(form);
+  QWidget* const owner = frame_ && frame_->isVisible() ? frame_ : nullptr;
+  QWidget* const view = MakeView(desk_, form, owner);
   if (!view) return;
   views_[&form] = view;
   if (frame) {

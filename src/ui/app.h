@@ -46,7 +46,6 @@ class App : public QObject, public base::DesktopView {
  private:
   void StoreRegion();
   void TryForLock();
-  QWidget* MakeView(base::Form& form);
   FrameView* Frame();
 
   base::HostFileSystem files_;

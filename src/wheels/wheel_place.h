@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "base/controls/desktop.h"
+#include "base/windows/desktop.h"
 #include "wheels/wheel_state.h"
 #include "wheels/wheel_window.h"
 

@@ -62,10 +62,8 @@ TEST(Start, TellsUnreadableSettingsOnce) {
   disk.FailFromNow(1, base::Error(base::kPathAccess, "The disk is broken"));
   shell::SettingsStore settings(disk, path);
   ASSERT_TRUE(disk.HasFailed());
-  base::QuietPorts quiet;
   shell::Desk broken(
-      {desk.boxes, desk.pump, desk.clock, desk.beeper, desk.shell_open, desk.mail, desk.printer,
-       desk.help, quiet.system_information, desk.region, desk.host_files, settings},
+      {.boxes = desk.boxes, .region = desk.region, .files = desk.host_files, .settings = settings},
       desk.folder.string());
   broken.Start();
   EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>{"The settings could not be read, and are "

@@ -23,15 +23,11 @@ class FailingMail : public base::Mail {
 };
 
 struct Reporting {
-  base::QuietPorts quiet;
   LoggedBoxes boxes;
   LoggedMail mail;
   MemorySettings settings;
   void Report(base::Mail& with_mail) {
-    base::Ports ports{boxes,         quiet.pump,  quiet.clock,
-                      quiet.beeper,  quiet.shell, with_mail,
-                      quiet.printer, quiet.help,  quiet.system_information,
-                      quiet.region,  quiet.files, settings};
+    const base::Ports ports{.boxes = boxes, .mail = with_mail, .settings = settings};
     shell::DeskErrorReporter(ports, {}).Report("SaveNewRecord", base::Error(base::kSubscript));
   }
 };

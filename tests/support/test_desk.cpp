@@ -147,9 +147,17 @@ void TestDesk::Start() {
 }
 
 void TestDesk::Restart() {
-  base::Ports ports{
-      boxes,  pump,   clock,   beeper, shell_open, mail, printer, help, quiet_.system_information,
-      region, *files, settings};
+  const base::Ports ports{.boxes = boxes,
+                          .pump = pump,
+                          .clock = clock,
+                          .beeper = beeper,
+                          .shell = shell_open,
+                          .mail = mail,
+                          .printer = printer,
+                          .help = help,
+                          .region = region,
+                          .files = *files,
+                          .settings = settings};
   desk_ = std::make_unique<shell::Desk>(ports, folder.string());
   desk_->Start();
 }

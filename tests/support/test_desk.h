@@ -158,7 +158,6 @@ class TestDesk {
   std::vector<std::string> Unused() const;
   void TellUnused() const;
 
-  base::QuietPorts quiet_;
   std::unique_ptr<shell::Desk> desk_;
 };
 

@@ -229,8 +229,8 @@ struct NotedFrame : wheels::WheelWizard::FrameSide {
 };
 
 TEST(WheelDeskRoad, TellsTheFrameItsHelpFileAndItsUse) {
-  base::QuietPorts ports;
-  base::Desktop desktop(ports.All());
+  base::Ports ports;
+  base::Desktop desktop(ports);
   store::Session session(ports.files);
   session.program_folder = "C:\\Desk";
   wheels::WheelState state;

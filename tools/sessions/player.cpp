@@ -122,10 +122,12 @@ Player::~Player() = default;
 // --- Doing
 
 void Player::Start() {
-  base::Ports ports{*boxes_,        *pump_,       *clock_,
-                    quiet_.beeper,  quiet_.shell, quiet_.mail,
-                    quiet_.printer, quiet_.help,  quiet_.system_information,
-                    region_,        disk_,        world_.settings};
+  const base::Ports ports{.boxes = *boxes_,
+                          .pump = *pump_,
+                          .clock = *clock_,
+                          .region = region_,
+                          .files = disk_,
+                          .settings = world_.settings};
   desk_ = std::make_unique<shell::Desk>(ports, world_.folder.Root().string());
   Do({.line = "start", .act = [this] { desk_->Start(); }});
 }

@@ -146,7 +146,6 @@ class Player {
   std::unique_ptr<Yields> pump_;
   std::unique_ptr<Clock> clock_;
   test::FixedRegion region_;
-  base::QuietPorts quiet_;
   std::unique_ptr<shell::Desk> desk_;
 
   std::vector<Running*> running_;

@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "base/controls/desktop.h"
 #include "base/controls/list_controls.h"
 #include "base/controls/simple_controls.h"
+#include "base/windows/desktop.h"
 
 namespace base {
 

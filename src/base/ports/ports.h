@@ -7,41 +7,28 @@
 
 namespace base {
 
-// Every door that a desk is built with. The references must outlive the desk.
+// The quiet door of a kind. It keeps nothing, so all desks may share it.
+template <typename Door>
+Door& Quiet() {
+  static Door door;
+  return door;
+}
+
+// Every door that a desk is built with, to be filled by name; what is not named stays quiet. The
+// doors must outlive the desk.
 struct Ports {
-  MessageBoxes& boxes;
-  EventPump& pump;
-  Clock& clock;
-  Beeper& beeper;
-  ShellOpen& shell;
-  Mail& mail;
-  Printer& printer;
-  HelpViewer& help;
-  SystemInformation& system_information;
-  Region& region;
-  FileSystem& files;
-  Settings& settings;
-};
-
-// One quiet door of each kind, for tests and as a base to replace single doors of.
-struct QuietPorts {
-  MessageBoxes boxes;
-  EventPump pump;
-  Clock clock;
-  Beeper beeper;
-  ShellOpen shell;
-  Mail mail;
-  Printer printer;
-  HelpViewer help;
-  SystemInformation system_information;
-  Region region;
-  NoFiles files;
-  Settings settings;
-
-  Ports All() {
-    return Ports{boxes,  pump,  clock,   beeper, shell, mail, printer, help, system_information,
-                 region, files, settings};
-  }
+  MessageBoxes& boxes = Quiet<MessageBoxes>();
+  EventPump& pump = Quiet<EventPump>();
+  Clock& clock = Quiet<Clock>();
+  Beeper& beeper = Quiet<Beeper>();
+  ShellOpen& shell = Quiet<ShellOpen>();
+  Mail& mail = Quiet<Mail>();
+  Printer& printer = Quiet<Printer>();
+  HelpViewer& help = Quiet<HelpViewer>();
+  SystemInformation& system_information = Quiet<SystemInformation>();
+  Region& region = Quiet<Region>();
+  FileSystem& files = Quiet<NoFiles>();
+  Settings& settings = Quiet<Settings>();
 };
 
 }  // namespace base

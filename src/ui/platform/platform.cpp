@@ -114,8 +114,18 @@ base::DateOrder ScreenRegion::Dates() {
 }
 
 base::Ports Platform::All() {
-  return {boxes_,   pump_, clock_,       beeper_, shell_, mail_,
-          printer_, help_, information_, region_, files_, settings_};
+  return {.boxes = boxes_,
+          .pump = pump_,
+          .clock = clock_,
+          .beeper = beeper_,
+          .shell = shell_,
+          .mail = mail_,
+          .printer = printer_,
+          .help = help_,
+          .system_information = information_,
+          .region = region_,
+          .files = files_,
+          .settings = settings_};
 }
 
 }  // namespace ui

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "base/controls/desktop.h"
 #include "base/controls/form.h"
 #include "base/controls/group.h"
 #include "base/controls/list_controls.h"
 #include "base/controls/simple_controls.h"
+#include "base/windows/desktop.h"
 
 namespace base {
 namespace {

@@ -29,15 +29,8 @@ class BoxLog : public MessageBoxes {
 
 class Desk : public testing::Test {
  protected:
-  Desk() : desktop_(WithBoxes()), user_(desktop_) { desktop_.Show(window_); }
-  Ports WithBoxes() {
-    return Ports{boxes_,         quiet_.pump,  quiet_.clock,
-                 quiet_.beeper,  quiet_.shell, quiet_.mail,
-                 quiet_.printer, quiet_.help,  quiet_.system_information,
-                 quiet_.region,  quiet_.files, quiet_.settings};
-  }
+  Desk() : desktop_({.boxes = boxes_}), user_(desktop_) { desktop_.Show(window_); }
   std::vector<std::string> log_;
-  QuietPorts quiet_;
   BoxLog boxes_;
   Window window_;
   Desktop desktop_;
@@ -159,10 +152,10 @@ TEST_F(Desk, AClosedWindowLivesUntilNoEventCanUseIt) {
     bool& gone_;
   };
   bool gone = false;
-  WindowSlot<Owned> slot([&] { return std::make_shared<Owned>(gone); });
-  desktop_.on_closed = [&](Form& form) { slot.Release(form, desktop_); };
-  Owned& owned = slot.Get();
-  desktop_.Show(owned);
+  desktop_.Add("Owned", [&] { return std::make_shared<Owned>(gone); });
+  const WindowOf<Owned> window(desktop_, "Owned");
+  Owned& owned = window.Get();
+  desktop_.Show("OWNED");
   bool gone_inside = true;
   owned.button.on.click = [&] {
     desktop_.Unload(owned);
@@ -171,7 +164,8 @@ TEST_F(Desk, AClosedWindowLivesUntilNoEventCanUseIt) {
   user_.Click(owned.button);
   EXPECT_FALSE(gone_inside);
   EXPECT_TRUE(gone);
-  EXPECT_EQ(slot.Peek(), nullptr);
+  EXPECT_EQ(window.Peek(), nullptr);
+  EXPECT_NE(&window.Get(), nullptr);
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <functional>
 #include <memory>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/controls/form.h"
@@ -42,7 +44,7 @@ class Desktop {
   // The user's switch to an open window: to the front, and its activation event.
   void Activate(Form& form);
   void BringToFront(Form& form);
-  // Runs Form_Unload, takes the window off the desktop, then `on_closed`.
+  // Runs Form_Unload and takes the window off the desktop.
   void Unload(Form& form);
   // The user's closing of a window. While one is held that would go with it, this waits until the
   // event is over that holds it.
@@ -51,10 +53,21 @@ class Desktop {
   const std::vector<Form*>& OpenForms() const { return open_; }
   // The same in the order in which they were loaded.
   const std::vector<Form*>& LoadOrder() const { return load_order_; }
-  // Told after a window is gone, for whoever owns it. The owner hands the window to Bury.
-  std::function<void(Form&)> on_closed;
-  // Keeps a closed window alive until no event procedure can be using it.
-  void Bury(std::shared_ptr<void> window);
+
+  // --- Windows by name (any case). Each exists at most once: it is made when it is first asked for
+  // and given up when it is unloaded; it lives on until no event procedure can be using it.
+
+  using Maker = std::function<std::shared_ptr<Form>()>;
+  void Add(std::string name, Maker make);
+  // Error 5 for a name that was not added.
+  Form& Window(std::string_view name);
+  // Null while it does not exist.
+  Form* Existing(std::string_view name) const;
+  void Show(std::string_view name) { Show(Window(name)); }
+  bool IsLoaded(std::string_view name) const;
+  // Unloads every window but this one, the last loaded first. One that fails to close does not keep
+  // the others open.
+  void UnloadAllBut(const Form& form);
 
   Control* Focused() const { return focused_; }
   // Lost-focus of the old control, then got-focus of the new one. Controls that take no focus or
@@ -102,6 +115,15 @@ class Desktop {
   std::vector<Form*> open_;
   std::vector<Form*> load_order_;
   Control* focused_ = nullptr;
+  struct Place {
+    std::string name;
+    Maker make;
+    std::shared_ptr<Form> window;
+  };
+  std::vector<Place> places_;
+
+  const Place* Find(std::string_view name) const;
+  void GiveUp(const Form& form);
   void CloseWaiting();
 
   std::vector<const Form*> held_;
@@ -109,30 +131,20 @@ class Desktop {
   int depth_ = 0;
   int yields_ = 0;
   int tabs_sent_ = 0;
-  std::vector<std::shared_ptr<void>> buried_;
+  std::vector<std::shared_ptr<Form>> buried_;
 };
 
-// One window that exists at most once and is created on first use.
+// A window by its name, for whoever works in it as what it is.
 template <typename T>
-class WindowSlot {
+class WindowOf {
  public:
-  explicit WindowSlot(std::function<std::shared_ptr<T>()> create) : create_(std::move(create)) {}
-  T& Get() {
-    if (!window_) window_ = create_();
-    return *window_;
-  }
-  T* Peek() const { return window_.get(); }
-  // Gives the instance up if it is this window.
-  bool Release(const Form& form, Desktop& desktop) {
-    if (!window_ || static_cast<const Form*>(window_.get()) != &form) return false;
-    desktop.Bury(std::move(window_));
-    window_.reset();
-    return true;
-  }
+  WindowOf(Desktop& desktop, std::string name) : desktop_(desktop), name_(std::move(name)) {}
+  T& Get() const { return dynamic_cast<T&>(desktop_.Window(name_)); }
+  T* Peek() const { return dynamic_cast<T*>(desktop_.Existing(name_)); }
 
  private:
-  std::function<std::shared_ptr<T>()> create_;
-  std::shared_ptr<T> window_;
+  Desktop& desktop_;
+  std::string name_;
 };
 
 }  // namespace base

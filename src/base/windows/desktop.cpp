@@ -1,4 +1,4 @@
-#include "base/controls/desktop.h"
+#include "base/windows/desktop.h"
 
 #include <algorithm>
 
@@ -70,7 +70,7 @@ void Desktop::Unload(Form& form) {
     View().FocusMoved(nullptr);
   }
   View().Unloaded(form);
-  if (on_closed) on_closed(form);
+  GiveUp(form);
 }
 
 bool Desktop::IsHeld(const Form& form) const {
@@ -95,9 +95,58 @@ void Desktop::CloseWaiting() {
   Dispatch([&] { Unload(form); });
 }
 
-void Desktop::Bury(std::shared_ptr<void> window) {
-  if (depth_ > 0) buried_.push_back(std::move(window));
+// --- Windows by name
+
+void Desktop::Add(std::string name, Maker make) {
+  places_.push_back({.name = std::move(name), .make = std::move(make), .window = nullptr});
 }
+
+const Desktop::Place* Desktop::Find(std::string_view name) const {
+  const auto place = std::find_if(places_.begin(), places_.end(), [&](const Place& candidate) {
+    return EqualNoCase(candidate.name, name);
+  });
+  return place == places_.end() ? nullptr : &*place;
+}
+
+Form& Desktop::Window(std::string_view name) {
+  const Place* const found = Find(name);
+  if (!found) throw Error(kInvalidCall);
+  Place& place = places_[static_cast<std::size_t>(found - places_.data())];
+  if (!place.window) place.window = place.make();
+  return *place.window;
+}
+
+Form* Desktop::Existing(std::string_view name) const {
+  const Place* const place = Find(name);
+  return place ? place->window.get() : nullptr;
+}
+
+bool Desktop::IsLoaded(std::string_view name) const {
+  const Form* const form = Existing(name);
+  return form && form->Loaded();
+}
+
+void Desktop::UnloadAllBut(const Form& form) {
+  const std::vector<Form*> windows = load_order_;
+  for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
+    if (*window == &form) continue;
+    try {
+      Unload(**window);
+    } catch (const Error&) {
+      // The others close all the same.
+    }
+  }
+}
+
+void Desktop::GiveUp(const Form& form) {
+  for (Place& place : places_) {
+    if (place.window.get() != &form) continue;
+    if (depth_ > 0) buried_.push_back(place.window);
+    place.window.reset();
+  }
+}
+
+// --- Focus and events
 
 void Desktop::SetFocus(Control& control) {
   if (&control == focused_ || !control.TakesFocus() || !control.Enabled()) return;
