@@ -41,8 +41,7 @@ void Entry::Wire() {
   window.cmdClear.on.click = trapped("cmdClear_Click", &Entry::cmdClear_Click);
   window.CmdReset.on.click = trapped("CmdReset_Click", &Entry::CmdReset_Click);
   window.cmdedit.on.click = trapped("cmdedit_Click", &Entry::cmdedit_Click);
-  window.TxtBall01.on.mouse_up =
-      [run = trapped("TxtBall01_MouseUp", &Entry::TxtBall01_MouseUp)](base::MouseButton) { run(); };
+  window.TxtBall01.on.mouse_up = trapped("TxtBall01_MouseUp", &Entry::TxtBall01_MouseUp);
 }
 
 // --- Adding

@@ -24,8 +24,7 @@ void ScanFilter::Wire() {
     box.on.key_press = [](char& key) {
       if (!IsDigit(key) && key != kBackspace) key = 0;
     };
-    box.on.key_up =
-        [run = trapped("TxtStartDrawAt_KeyUp", &ScanFilter::TxtStartDrawAt_KeyUp)](int) { run(); };
+    box.on.key_up = trapped("TxtStartDrawAt_KeyUp", &ScanFilter::TxtStartDrawAt_KeyUp);
   });
 }
 

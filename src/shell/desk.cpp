@@ -157,6 +157,9 @@ struct Desk::Parts {
     session.program_folder = std::move(program_folder);
     AddWindows();
   }
+  ~Parts() { desktop.DropWindows(); }
+  Parts(const Parts&) = delete;
+  Parts& operator=(const Parts&) = delete;
 
   base::Desktop desktop;
   base::User user;

@@ -151,7 +151,12 @@ std::vector<std::string> Outlived(const std::vector<std::string>& names, base::D
 void PruneEarlierStates(base::FileSystem& files, const std::string& path, base::Date today) {
   for (const std::string& name : Outlived(EarlierStates(files, path), today)) {
     try {
-      files.Remove(PathOfState(path, name));
+      const std::string state = PathOfState(path, name);
+      const std::optional<base::FileIdentity> kept = files.Identify(state);
+      const std::optional<base::FileIdentity> open = files.Identify(path);
+      // A database may be a link to a state, which is then no earlier one.
+      if (kept && open && kept->IsSameFile(*open)) continue;
+      files.Remove(state);
     } catch (const base::Error&) {
       // It is asked about again at the next rewrite.
     }

@@ -43,8 +43,15 @@ void OpenDatabase::DropTwin() {
     const std::string newest = PathOfState(path_, states.front());
     const std::optional<base::FileIdentity> state = files_.Identify(newest);
     const std::optional<base::FileIdentity> now = files_.Identify(path_);
-    // A database may also be a link to the state that somebody went back to: its only name then.
-    if (state && now && state->IsSameFile(*now) && state->names > 1) files_.Remove(newest);
+    // A database may also be a link to the state that somebody went back to, which stays then.
+    if (!state || !now || !state->IsSameFile(*now) || state->names < 2) return;
+    const std::string aside = newest + ".twin";
+    files_.Rename(newest, aside);
+    if (files_.Identify(path_)) {
+      files_.Remove(aside);
+    } else {
+      files_.Rename(aside, newest);
+    }
   } catch (const base::Error&) {
     // One state too many does no harm.
   }
@@ -170,8 +177,9 @@ std::optional<std::int16_t> OpenDatabase::Append(const DrawRecord& record) {
   }
   const std::size_t old_size = file_.Bytes().size();
   const std::size_t begin = old_size + missing.size() - left_over;
-  file_.Append(missing + EncodeRecord(record).substr(left_over));
-  if (HasLeftItsPlace()) {
+  const std::string added = missing + EncodeRecord(record).substr(left_over);
+  file_.Append(added);
+  if (!IsStored(added)) {
     file_.Adopt(file_.Bytes().substr(0, old_size));
     return std::nullopt;
   }
@@ -179,13 +187,15 @@ std::optional<std::int16_t> OpenDatabase::Append(const DrawRecord& record) {
   return number;
 }
 
-// Whether the path has come to lead elsewhere than to the open file.
-bool OpenDatabase::HasLeftItsPlace() {
+// Whether what was appended is in the file that the path leads to now. Another program may have put
+// its own there, with the new draw or without, or have written in front of it or behind it.
+bool OpenDatabase::IsStored(const std::string& added) {
   try {
-    const std::optional<base::FileIdentity> now = files_.Identify(path_);
-    return !now || !file_.IsTheFile(*now);
-  } catch (const base::Error&) {
-    return false;  // nothing speaks for it
+    const std::string there = files_.ReadAll(path_);
+    const std::string& mine = file_.Bytes();
+    return there.starts_with(mine) || (there.size() > mine.size() && there.ends_with(added));
+  } catch (const base::Error& error) {
+    return error.Number() != base::kFileNotFound;  // nothing speaks against it
   }
 }
 

@@ -116,7 +116,7 @@ class OpenDatabase {
  private:
   void DropTwin();
   void IndexBytes();
-  bool HasLeftItsPlace();
+  bool IsStored(const std::string& added);
   void DropUnlessAlone(const std::string& kept);
 
   base::FileSystem& files_;

@@ -187,6 +187,51 @@ TEST(InBetween, ASaveGoesToACopyThatHasTakenThePlace) {
   EXPECT_EQ(desk.Main().ListView1.RowCount(), kDraws + 1);
 }
 
+// A copy that was made when the draw stood in the file already: it is saved, and once.
+TEST(InBetween, ASaveThatACopyHasTakenAlongIsSaved) {
+  TestDesk desk;
+  StartQuietly(desk);
+  TypeDraw(desk, Added());
+  {
+    SystemCalls calls;
+    calls.ActBefore(
+        1,
+        [&] {
+          const std::filesystem::path beside = desk.folder / "copy";
+          std::ofstream(beside, std::ios::binary) << desk.DatabaseBytes();
+          std::filesystem::rename(beside, PathOf(desk));
+        },
+        "fsync");
+    desk.User().Click(desk.Main().cmdSave);
+    EXPECT_TRUE(calls.HasStruck());
+  }
+  EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>());
+  Draws draws = SampleDraws(kDraws);
+  draws.push_back(Added());
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(draws));
+  EditDraw(desk, 8, "99");
+  draws[7].b[5] = "99";
+  EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>());
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(draws));
+}
+
+// A program that writes the file anew in place, over the draw that was just appended.
+TEST(InBetween, ADrawThatWasWrittenOverCountsAsNotSaved) {
+  TestDesk desk;
+  StartQuietly(desk);
+  TypeDraw(desk, Added());
+  desk.boxes.answers = {base::Answer::kNo};
+  {
+    SystemCalls calls;
+    calls.ActBefore(
+        1, [&] { desk.WriteDatabase(Encode(SampleDraws(kDraws - 1))); }, "fsync");
+    desk.User().Click(desk.Main().cmdSave);
+    EXPECT_TRUE(calls.HasStruck());
+  }
+  EXPECT_EQ(desk.TakeBoxTexts().size(), 1u);
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(kDraws - 1)));
+}
+
 TEST(InBetween, AFileThatComesWhileItIsWrittenAgainStays) {
   TestDesk desk;
   StartQuietly(desk);

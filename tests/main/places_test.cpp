@@ -322,6 +322,25 @@ TEST(OwnRows, AreKeptOnceAndNotBehindTheNextWindow) {
   EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>());
 }
 
+// Each rewrite goes into the state that the link leads to: it is the database.
+TEST(OpenDatabase, ALinkToAnEarlierStateStaysWhileStatesGo) {
+  TestDesk desk;
+  const auto folder = desk.folder / "DataBases";
+  std::filesystem::create_directory(folder / "Earlier");
+  const std::string state = "UK-National-Lottery 1990-01-01 00-00-00.dat";
+  std::filesystem::rename(folder / desk.database, folder / "Earlier" / state);
+  std::filesystem::create_hard_link(folder / "Earlier" / state, folder / "another name");
+  std::filesystem::create_symlink("Earlier/" + state, folder / desk.database);
+  StartQuietly(desk);
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(SampleDraws(40)));
+  for (int ball = 50; ball < 75; ++ball) Edit(desk, std::to_string(ball).c_str());
+  desk.Desk().Stop();
+  EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>());
+  EXPECT_TRUE(std::filesystem::is_symlink(folder / desk.database));
+  EXPECT_NE(desk.DatabaseBytes(), Encode(SampleDraws(40)));
+  EXPECT_EQ(desk.DatabaseBytes().size(), Encode(SampleDraws(40)).size());
+}
+
 TEST(OpenDatabase, ALinkToAnEarlierStateStays) {
   TestDesk desk;
   const auto folder = desk.folder / "DataBases";

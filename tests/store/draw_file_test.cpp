@@ -33,6 +33,7 @@ class MemoryFiles : public base::NoFiles {
   std::optional<base::FileIdentity> Identify(const std::string&) override {
     return base::FileIdentity{.number = 1};
   }
+  std::string ReadAll(const std::string&) override { return bytes; }
   std::string bytes;
   int reads = 0;
 };

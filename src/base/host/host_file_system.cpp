@@ -48,10 +48,8 @@ class HostFile : public File {
   // Nothing half written may stay behind the last draw; what somebody else has written there does.
   void CutBack(off_t old_length, off_t written) {
     struct stat status {};
-    if (Retried([&] { return fstat(file_.Number(), &status); }) == 0 &&
-        status.st_size > old_length + written) {
-      return;
-    }
+    if (Retried([&] { return fstat(file_.Number(), &status); }) != 0) return;
+    if (status.st_size != old_length + written) return;
     if (Retried([&] { return ftruncate(file_.Number(), old_length); }) == 0) Flush(file_.Number());
   }
 

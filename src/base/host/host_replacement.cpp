@@ -114,13 +114,9 @@ void DemandDone(bool done, const std::string& beside, const std::string& target)
 // The file that was replaced gets the name under which it is kept. One that bears it already keeps
 // both names through the rename.
 void PutAway(const std::string& replaced, const std::string& kept) {
-  try {
-    if (!Rename(replaced, kept)) ReplaceFile(kept, ReadWhole(replaced));
-    Unlink(replaced);  // where that fails, the next replacement does it
-    FlushFolderOf(kept);
-  } catch (const Error&) {
-    // It lies beside the new file, whole.
-  }
+  if (!Rename(replaced, kept)) ReplaceFile(kept, ReadWhole(replaced));
+  Unlink(replaced);  // where that fails, the next replacement does it
+  FlushFolderOf(kept);
 }
 
 }  // namespace
@@ -135,8 +131,13 @@ void ReplaceKeptFile(const std::string& path, std::string_view bytes, const std:
   const std::string target = LinkTarget(path);
   const std::string beside = WriteBeside(target, bytes);
   if (RenameWith(kExchange, beside, target)) {
-    FlushFolderOf(target);
-    return PutAway(beside, kept);
+    try {
+      PutAway(beside, kept);
+    } catch (...) {
+      if (RenameWith(kExchange, beside, target)) Unlink(beside);
+      throw;
+    }
+    return FlushFolderOf(target);
   }
   const bool nothing_to_exchange = errno == ENOENT || IsUnknownToTheDisk(errno);
   DemandDone(nothing_to_exchange && Rename(beside, target), beside, target);
@@ -151,7 +152,10 @@ bool CreateFile(const std::string& path, std::string_view bytes) {
     if (done) {
       Unlink(beside);
     } else if (IsUnknownToTheDisk(errno)) {
-      done = Rename(beside, target);
+      struct stat status {};
+      const bool is_taken = lstat(target.c_str(), &status) == 0;
+      done = !is_taken && Rename(beside, target);
+      if (is_taken) errno = EEXIST;
     }
   }
   if (!done && errno == EEXIST) {

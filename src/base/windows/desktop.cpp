@@ -61,6 +61,7 @@ void Desktop::Unload(Form& form) {
   if (!form.Loaded()) return;
   std::erase(waiting_to_close_, &form);
   if (form.on.unload) form.on.unload();
+  std::erase(waiting_to_close_, &form);  // a box in there may have let another closing in
   form.SetLoaded(false);
   form.SetVisible(false);
   std::erase(open_, &form);

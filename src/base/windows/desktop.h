@@ -65,6 +65,8 @@ class Desktop {
   Form* Existing(std::string_view name) const;
   void Show(std::string_view name) { Show(Window(name)); }
   bool IsLoaded(std::string_view name) const;
+  // Gives every window up as it is, before what it works with goes.
+  void DropWindows() { places_.clear(); }
   // Unloads every window but this one, the last loaded first. One that fails to close does not keep
   // the others open.
   void UnloadAllBut(const Form& form);

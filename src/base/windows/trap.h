@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string_view>
 
 #include "base/language/error.h"
@@ -24,18 +23,16 @@ void Trapped(ErrorReporter& reporter, std::string_view procedure, Body body) {
   }
 }
 
-// An event procedure that has a trap, to be wired to its event. The reporter and the subject have
-// to outlive the window; the name is a literal.
-template <typename Subject>
-std::function<void()> Trap(ErrorReporter& reporter, const char* procedure, Subject& subject,
-                           void (Subject::*body)()) {
-  return [&reporter, procedure, &subject, body] {
-    Trapped(reporter, procedure, [&] { (subject.*body)(); });
-  };
-}
+// An event procedure that has a trap, to be wired to an event of any kind; what the event brings is
+// not for it. The reporter and the subject have to outlive the window; the name is a literal.
 template <typename Body>
-std::function<void()> Trap(ErrorReporter& reporter, const char* procedure, Body body) {
-  return [&reporter, procedure, body] { Trapped(reporter, procedure, body); };
+auto Trap(ErrorReporter& reporter, const char* procedure, Body body) {
+  return [&reporter, procedure, body](auto&&...) { Trapped(reporter, procedure, body); };
+}
+template <typename Subject>
+auto Trap(ErrorReporter& reporter, const char* procedure, Subject& subject,
+          void (Subject::*body)()) {
+  return Trap(reporter, procedure, [&subject, body] { (subject.*body)(); });
 }
 
 }  // namespace base

@@ -326,6 +326,16 @@ TEST_F(KeptFile, OfAnotherDiskTakesACopyOfWhatWasReplaced) {
   EXPECT_EQ(folder_.Now(), (Files{{"a", kNew}, {"k", "another"}}));
 }
 
+// What another program had put there would bear no name that anybody looks at.
+TEST_F(KeptFile, StaysWhereWhatWasReplacedCannotBeKept) {
+  files_.Keep(folder_.Path("a"), folder_.Path("k"));
+  PutInPlace();
+  SystemCalls calls;
+  calls.Lack("rename", EXDEV);
+  EXPECT_THROW(files_.ReplaceKept(folder_.Path("a"), kNew, folder_.Path("k")), base::Error);
+  EXPECT_EQ(folder_.Now(), (Files{{"a", "another"}, {"k", kOld}}));
+}
+
 // --- Creating
 
 TEST(HostCalls, CreateTakesNoNameFromAnybody) {
@@ -399,6 +409,22 @@ TEST(HostCalls, AFailedAppendLeavesWhatAnotherProgramWroteBehindIt) {
     EXPECT_TRUE(calls.HasStruck());
   }
   EXPECT_EQ(BytesOf(folder.Path("a")), kOld + kNew + "more");
+}
+
+// It would be made longer again, by zeros.
+TEST(HostCalls, AFailedAppendLeavesAFileThatAnotherProgramHasCut) {
+  const Folder folder({{"a", kOld}});
+  base::HostFileSystem files;
+  const auto file = files.Open(folder.Path("a"));
+  {
+    SystemCalls calls;
+    calls.ActBefore(3, [&] {
+      fs::resize_file(folder.Path("a"), 3);
+      calls.FailFromNow(1, ENOSPC, "fsync");
+    });
+    EXPECT_THROW(file->Append(kNew), base::Error);
+  }
+  EXPECT_EQ(BytesOf(folder.Path("a")), kOld.substr(0, 3));
 }
 
 TEST(HostCalls, AnAppendGoesBehindWhatAnotherProgramHasJustWritten) {
