@@ -193,7 +193,15 @@ bool OpenDatabase::IsStored(const std::string& added) {
   try {
     const std::string there = files_.ReadAll(path_);
     const std::string& mine = file_.Bytes();
-    return there.starts_with(mine) || (there.size() > mine.size() && there.ends_with(added));
+    if (there.starts_with(mine)) return true;
+    const std::optional<base::FileIdentity> now = files_.Identify(path_);
+    const bool is_mine = now && file_.IsTheFile(*now);
+    if (!there.ends_with(added) || (!is_mine && there.size() <= mine.size())) return false;
+    // Behind a record that was cut meanwhile it would be a part of that one.
+    const std::size_t begin = there.size() - added.size();
+    std::size_t at = 0;
+    for (DrawRecord draw; at < begin;) at = DecodeRecord(there, at, draw).offset;
+    return at == begin;
   } catch (const base::Error& error) {
     return error.Number() != base::kFileNotFound;  // nothing speaks against it
   }

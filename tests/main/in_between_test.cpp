@@ -215,6 +215,42 @@ TEST(InBetween, ASaveThatACopyHasTakenAlongIsSaved) {
   EXPECT_EQ(desk.DatabaseBytes(), Encode(draws));
 }
 
+// The draw stands behind whole records: it is saved, and whoever changes something next is asked.
+TEST(InBetween, ASaveBehindDrawsThatWereCutOffIsSaved) {
+  TestDesk desk;
+  StartQuietly(desk);
+  TypeDraw(desk, Added());
+  const std::string fewer = Encode(SampleDraws(kDraws - 2));
+  {
+    SystemCalls calls;
+    calls.ActBefore(
+        1, [&] { std::filesystem::resize_file(PathOf(desk), fewer.size()); }, "write");
+    desk.User().Click(desk.Main().cmdSave);
+    EXPECT_TRUE(calls.HasStruck());
+  }
+  EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>());
+  EXPECT_EQ(desk.DatabaseBytes(), fewer + Encode({Added()}));
+  desk.boxes.answers = {base::Answer::kNo};
+  EditDraw(desk, 8, "99");
+  EXPECT_EQ(desk.TakeBoxTexts().size(), 1u);
+}
+
+TEST(InBetween, ASaveBehindATornDrawCountsAsNotSaved) {
+  TestDesk desk;
+  StartQuietly(desk);
+  TypeDraw(desk, Added());
+  desk.boxes.answers = {base::Answer::kNo};
+  {
+    SystemCalls calls;
+    calls.ActBefore(
+        1, [&] { std::filesystem::resize_file(PathOf(desk), desk.DatabaseBytes().size() - 20); },
+        "write");
+    desk.User().Click(desk.Main().cmdSave);
+    EXPECT_TRUE(calls.HasStruck());
+  }
+  EXPECT_EQ(desk.TakeBoxTexts().size(), 1u);
+}
+
 // A program that writes the file anew in place, over the draw that was just appended.
 TEST(InBetween, ADrawThatWasWrittenOverCountsAsNotSaved) {
   TestDesk desk;

@@ -58,7 +58,9 @@ class Player::Eyes : public WatchedDisk::Watcher {
   void Opened(const std::string& path, bool came_into_being) override {
     player_.Opened(path, came_into_being);
   }
-  void BeforeWrite(const std::string& path) override { player_.BeforeWrite(path); }
+  void BeforeWrite(const std::string& path, bool is_append) override {
+    player_.BeforeWrite(path, is_append);
+  }
   void Wrote(const WriteSeen& write) override { player_.Wrote(write); }
   void Kept(const std::string& /*path*/, const std::string& second_path) override {
     player_.kept_ = second_path;
@@ -268,11 +270,11 @@ void Player::Opened(const std::string& path, bool came_into_being) {
   belief_.open = name;
 }
 
-void Player::BeforeWrite(const std::string& path) {
+void Player::BeforeWrite(const std::string& path, bool is_append) {
   const std::string name = world_.folder.NameOf(path);
   if (name != belief_.open || !world_.chance.Percent(1)) return;
-  const std::string told =
-      world_.chance.Percent(50) ? AppendFromOutside(world_, name) : ActFromOutside(world_, name);
+  const std::string told = is_append || world_.chance.Percent(50) ? AppendFromOutside(world_, name)
+                                                                  : ActFromOutside(world_, name);
   if (told.empty()) return;
   world_.report.Inside(told + " between two calls");
   moment_.another_program_came_between = true;

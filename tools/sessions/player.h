@@ -131,7 +131,7 @@ class Player {
   // --- What the disk tells
   std::optional<std::string> BytesOf(const std::string& path) const;
   void Opened(const std::string& path, bool came_into_being);
-  void BeforeWrite(const std::string& path);
+  void BeforeWrite(const std::string& path, bool is_append);
   void Wrote(const WriteSeen& write);
   void WroteBeside(const std::string& name, const WriteSeen& write);
   void Removed(const std::string& path, const std::string& bytes);

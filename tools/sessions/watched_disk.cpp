@@ -18,7 +18,7 @@ class WatchedFile : public base::File {
   }
   void Append(std::string_view bytes) override {
     WatchedDisk::Watcher& eyes = disk_.Eyes();
-    eyes.BeforeWrite(path_);
+    eyes.BeforeWrite(path_, true);
     disk_.Count();
     WriteSeen write{.path = path_, .before = eyes.BytesOf(path_), .is_append = true};
     file_->Append(bytes);
@@ -72,7 +72,7 @@ void WatchedDisk::Replace(const std::string& path, std::string_view bytes) {
 
 void WatchedDisk::ReplaceKept(const std::string& path, std::string_view bytes,
                               const std::string& kept) {
-  watcher_.BeforeWrite(path);
+  watcher_.BeforeWrite(path, false);
   Write(path, [&] { disk_.ReplaceKept(path, bytes, kept); });
 }
 
@@ -101,7 +101,7 @@ void WatchedDisk::MakeFolder(const std::string& path) {
 }
 
 void WatchedDisk::Keep(const std::string& path, const std::string& second_path) {
-  watcher_.BeforeWrite(path);
+  watcher_.BeforeWrite(path, false);
   Count();
   disk_.Keep(path, second_path);
   watcher_.Kept(path, second_path);

@@ -31,7 +31,7 @@ class WatchedDisk : public base::FileSystem {
     virtual void Opened(const std::string& path, bool came_into_being) = 0;
     // Just before the desk keeps, replaces or appends to a file; another program may do something
     // now.
-    virtual void BeforeWrite(const std::string& path) = 0;
+    virtual void BeforeWrite(const std::string& path, bool is_append) = 0;
     virtual void Wrote(const WriteSeen& write) = 0;
     virtual void Kept(const std::string& path, const std::string& second_path) = 0;
     virtual void Removed(const std::string& path, const std::string& bytes) = 0;
