@@ -162,24 +162,26 @@ TEST(InBetween, NobodysDrawsAreLost) {
   }
 }
 
+// Saves the typed draw while another program acts right before this call.
+void SaveWhile(TestDesk& desk, const char* call, const std::function<void()>& act) {
+  SystemCalls calls;
+  calls.ActBefore(1, act, call);
+  desk.User().Click(desk.Main().cmdSave);
+  EXPECT_TRUE(calls.HasStruck());
+}
+
+void PutCopyInPlace(const TestDesk& desk) {
+  const std::filesystem::path beside = desk.folder / "copy";
+  std::ofstream(beside, std::ios::binary) << desk.DatabaseBytes();
+  std::filesystem::rename(beside, PathOf(desk));
+}
+
 // A program that synchronises puts a copy in place: the draw goes to the copy.
 TEST(InBetween, ASaveGoesToACopyThatHasTakenThePlace) {
   TestDesk desk;
   StartQuietly(desk);
   TypeDraw(desk, Added());
-  {
-    SystemCalls calls;
-    calls.ActBefore(
-        1,
-        [&] {
-          const std::filesystem::path beside = desk.folder / "copy";
-          std::ofstream(beside, std::ios::binary) << desk.DatabaseBytes();
-          std::filesystem::rename(beside, PathOf(desk));
-        },
-        "write");
-    desk.User().Click(desk.Main().cmdSave);
-    EXPECT_TRUE(calls.HasStruck());
-  }
+  SaveWhile(desk, "write", [&] { PutCopyInPlace(desk); });
   EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>());
   Draws draws = SampleDraws(kDraws);
   draws.push_back(Added());
@@ -192,19 +194,7 @@ TEST(InBetween, ASaveThatACopyHasTakenAlongIsSaved) {
   TestDesk desk;
   StartQuietly(desk);
   TypeDraw(desk, Added());
-  {
-    SystemCalls calls;
-    calls.ActBefore(
-        1,
-        [&] {
-          const std::filesystem::path beside = desk.folder / "copy";
-          std::ofstream(beside, std::ios::binary) << desk.DatabaseBytes();
-          std::filesystem::rename(beside, PathOf(desk));
-        },
-        "fsync");
-    desk.User().Click(desk.Main().cmdSave);
-    EXPECT_TRUE(calls.HasStruck());
-  }
+  SaveWhile(desk, "fsync", [&] { PutCopyInPlace(desk); });
   EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>());
   Draws draws = SampleDraws(kDraws);
   draws.push_back(Added());
