@@ -189,6 +189,19 @@ TEST(InBetween, ASaveGoesToACopyThatHasTakenThePlace) {
   EXPECT_EQ(desk.Main().ListView1.RowCount(), kDraws + 1);
 }
 
+// The draw that the copy ends with is the one before.
+TEST(InBetween, ASaveOfATwinGoesToACopyThatHasTakenThePlace) {
+  Draws draws = SampleDraws(kDraws);
+  draws.push_back(Added());
+  TestDesk desk(draws);
+  StartQuietly(desk);
+  TypeDraw(desk, Added());
+  SaveWhile(desk, "write", [&] { PutCopyInPlace(desk); });
+  EXPECT_EQ(desk.TakeBoxTexts(), std::vector<std::string>());
+  draws.push_back(Added());
+  EXPECT_EQ(desk.DatabaseBytes(), Encode(draws));
+}
+
 // A copy that was made when the draw stood in the file already: it is saved, and once.
 TEST(InBetween, ASaveThatACopyHasTakenAlongIsSaved) {
   TestDesk desk;
